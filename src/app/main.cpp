@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Start-up in its fixed order: the evening's ledger exists before anything else (it is a
+// global), then the application with the desktop's services, then the one main window,
+// which takes its date and default names before it first draws the sheet.
+#include "platform/QtServices.h"
+#include "windows/Spielstand.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"Tafelkasse"_qs);
+    QApplication::setApplicationVersion(u"1.0.0"_qs);
+    platform::QtServices dienste;
+
+    Spielstand fenster;
+    fenster.show();
+    return QApplication::exec();
+}

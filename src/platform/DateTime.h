@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A moment in time, as the evening keeps its date: taken from the installed clock and
+// shown in the user's locale with date and time of day.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+struct DateTime {
+    std::int64_t millisecondsSinceEpoch = 0;
+
+    // The current moment from the installed clock.
+    static DateTime Now();
+
+    // Medium date and medium time in the user's locale and time zone,
+    // in German for example "12.03.2021, 19:30:00".
+    std::string ToString() const;
+
+    friend bool operator==(const DateTime &, const DateTime &) = default;
+};

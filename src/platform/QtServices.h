@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The desktop's side of the platform services: the beep of the desktop, a message box over
+// the active window, and the fonts that Qt's font database knows.
+#pragma once
+
+#include "System.h"
+
+#include <QStringList>
+
+namespace platform {
+
+class QtBeep final : public BeepService {
+public:
+    void beep() override;
+};
+
+class QtMessageBox final : public MessageService {
+public:
+    void show(std::string_view text) override;
+};
+
+// The installed font families, read once: the list does not change during an evening,
+// and asking Qt anew for each of the hundreds of families would cost at every refresh.
+class QtFonts final : public FontService {
+public:
+    int count() override;
+    std::string at(int index) override;
+
+private:
+    void load();
+    QStringList m_families;
+    bool m_loaded = false;
+};
+
+// All of the above, installed for as long as the object lives.
+class QtServices {
+public:
+    QtServices();
+    ~QtServices();
+    QtServices(const QtServices &) = delete;
+    QtServices &operator=(const QtServices &) = delete;
+
+private:
+    QtBeep m_beep;
+    QtMessageBox m_messages;
+    QtFonts m_fonts;
+};
+
+} // namespace platform

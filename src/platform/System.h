@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The few things the evening asks of the machine it runs on: a beep, a message to the user,
+// the list of installed fonts and the clock. Each is a small service behind an interface;
+// main() installs the desktop's implementations, a test installs doubles it can watch.
+// Until something is installed the services stay quiet: no sound, no message, no fonts,
+// and the system clock.
+#pragma once
+
+#include "DateTime.h"
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+class BeepService {
+public:
+    virtual ~BeepService() = default;
+    virtual void beep() = 0;
+};
+
+class MessageService {
+public:
+    virtual ~MessageService() = default;
+    virtual void show(std::string_view text) = 0;
+};
+
+class FontService {
+public:
+    virtual ~FontService() = default;
+    virtual int count() = 0;
+    virtual std::string at(int index) = 0;
+};
+
+class ClockService {
+public:
+    virtual ~ClockService() = default;
+    virtual DateTime now() = 0;
+};
+
+// Each installs the service for the rest of the run, or until the next install; nullptr
+// puts back the quiet default. The caller keeps the object alive while it is installed.
+void install(BeepService *service);
+void install(MessageService *service);
+void install(FontService *service);
+void install(ClockService *service);
+
+} // namespace platform
+
+namespace System {
+void Beep();
+int FontCount();
+std::string FontAt(int index);
+} // namespace System
+
+void MessageBox(std::string_view text);

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ErgebnisFormular.h"
+
+#include "platform/QtText.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// Radio buttons stand inside their group box, whose own place is given in window coordinates.
+QRect innerhalb(QRect geometrie, QRect box)
+{
+    return geometrie.translated(-box.topLeft());
+}
+
+} // namespace
+
+ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , GroupBox1(new QGroupBox(this))
+    , GroupBox2(new QGroupBox(this))
+    , OK(new QPushButton(u"OK"_qs, this))
+    , Cancel(new QPushButton(u"Abbruch"_qs, this))
+    , Label1(new QLabel(layout.label1Text, this))
+{
+    setWindowTitle(layout.titel);
+    setFixedSize(layout.groesse);
+    setModal(true);
+
+    GroupBox1->setObjectName(u"GroupBox1"_qs);
+    GroupBox1->setGeometry(layout.groupBox1);
+    GroupBox2->setObjectName(u"GroupBox2"_qs);
+    GroupBox2->setGeometry(layout.groupBox2);
+    for (int k = 0; k < 4; ++k) {
+        const QString nummer = QString::number(k + 1);
+        Mahjongg[k] = new QRadioButton(u"Mah Jongg"_qs, GroupBox1);
+        Mahjongg[k]->setObjectName(u"Mahjongg_"_qs + nummer);
+        Mahjongg[k]->setGeometry(innerhalb(layout.mahjongg[k], layout.groupBox1));
+        Osten[k] = new QRadioButton(u"Osten"_qs, GroupBox2);
+        Osten[k]->setObjectName(u"Osten_"_qs + nummer);
+        Osten[k]->setGeometry(innerhalb(layout.osten[k], layout.groupBox2));
+    }
+    Mahjongg[0]->setChecked(true);
+    Osten[0]->setChecked(true);
+    for (int k = 0; k < 4; ++k) {
+        Felder[k] = new QLineEdit(this);
+        Felder[k]->setObjectName(layout.feldName + QString::number(k + 1));
+        Felder[k]->setGeometry(layout.felder[k]);
+    }
+    for (int k = 0; k < 4; ++k) {
+        Spieler[k] = new QLabel(u"Spieler %1:"_qs.arg(k + 1), this);
+        Spieler[k]->setObjectName(u"Spieler_"_qs + QString::number(k + 1));
+        Spieler[k]->setGeometry(layout.spieler[k]);
+    }
+    OK->setObjectName(u"OK"_qs);
+    OK->setGeometry(layout.ok);
+    OK->setDefault(true);
+    Cancel->setObjectName(u"Cancel"_qs);
+    Cancel->setGeometry(layout.cancel);
+    Cancel->setAutoDefault(false);
+    Label1->setObjectName(u"Label1"_qs);
+    Label1->setGeometry(layout.label1);
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->setWordWrap(true);
+
+    // Tab order as the form reads: the two button groups, the scores from the top, OK, Abbruch.
+    setTabOrder(Mahjongg[0], Osten[0]);
+    setTabOrder(Osten[0], Felder[0]);
+    for (int k = 1; k < 4; ++k)
+        setTabOrder(Felder[k - 1], Felder[k]);
+    setTabOrder(Felder[3], OK);
+    setTabOrder(OK, Cancel);
+    // The scores are what the user types first after a game.
+    Felder[0]->setFocus();
+
+    connect(OK, &QPushButton::clicked, this, &ErgebnisFormular::OK_Pressed);
+    connect(Cancel, &QPushButton::clicked, this, &ErgebnisFormular::Cancel_Pressed);
+}
+
+void ErgebnisFormular::SpielerSetzen(const Abend &abend)
+{
+    for (int k = 0; k < 4; ++k)
+        Spieler[k]->setText(qs(abend.Spieler(k + 1)) + u':');
+}
+
+namespace {
+
+int gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
+{
+    for (int k = 0; k < 3; ++k) {
+        if (gruppe[k]->isChecked())
+            return k + 1;
+    }
+    return 4;
+}
+
+} // namespace
+
+ResultForm ErgebnisFormular::Formular() const
+{
+    ResultForm form;
+    for (int k = 0; k < 4; ++k)
+        form.ScoreText[k] = utf8(Felder[k]->text());
+    form.MahjonggChoice = gewaehlt(Mahjongg);
+    form.OstenChoice = gewaehlt(Osten);
+    return form;
+}
+
+void ErgebnisFormular::FormularSetzen(const ResultForm &form)
+{
+    for (int k = 0; k < 4; ++k)
+        Felder[k]->setText(qs(form.ScoreText[k]));
+    Mahjongg[std::clamp(form.MahjonggChoice, 1, 4) - 1]->setChecked(true);
+    Osten[std::clamp(form.OstenChoice, 1, 4) - 1]->setChecked(true);
+    // Typing replaces the old score at once.
+    Felder[0]->selectAll();
+}
+
+void ErgebnisFormular::reject()
+{
+    Cancel_Pressed();
+}
+
+void ErgebnisFormular::Cancel_Pressed()
+{
+    Eingabe_Abbruch(Modul1);
+    QDialog::reject();
+}

@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Spielstand.h"
+
+#include "Ergebnisse.h"
+#include "Korrigieren.h"
+#include "ledger/Eingabe.h"
+#include "ledger/Rechnen.h"
+#include "platform/Anker.h"
+#include "platform/QtText.h"
+#include "platform/System.h"
+#include "view/BlattSchreiben.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextEdit>
+
+using namespace platform;
+
+namespace {
+constexpr QSize Inhalt{896, 616};
+constexpr qreal LayoutSchriftgroesse = 12;
+} // namespace
+
+Spielstand::Spielstand(QWidget *parent)
+    : QMainWindow(parent)
+    , Anzeige(new QTextEdit)
+    , Ueber_Button(new QPushButton(u"Über…"_qs))
+    , Namen_Button(new QPushButton(u"Namen der Spieler"_qs))
+    , Ergebnisse_Button(new QPushButton(u"Ergebnisse eingeben"_qs))
+    , Korrektur_Button(new QPushButton(u"Ergebnisse korrigieren"_qs))
+    , PushButton5(new QPushButton(u"Quit"_qs))
+    , Neustart_Button(new QPushButton(u"Neustart"_qs))
+    , PushButton1(new QPushButton(u"größer"_qs))
+    , PushButton2(new QPushButton(u"Standard"_qs))
+    , PushButton6(new QPushButton(u"kleiner"_qs))
+    , Label1(new QLabel(u"Darstellung:"_qs))
+{
+    Layout();
+    Event_Opening();
+}
+
+void Spielstand::Layout()
+{
+    setWindowTitle(u" Tafelkasse "_qs);
+    setObjectName(u"Spielstand"_qs);
+
+    auto *inhalt = new QWidget;
+    inhalt->setMinimumSize(Inhalt);
+    setCentralWidget(inhalt);
+    auto *anker = new Anker(inhalt, Inhalt);
+
+    const struct {
+        QWidget *control;
+        const char *name;
+        QRect geometrie;
+        unsigned locks;
+    } controls[] = {
+        {Anzeige, "Anzeige", {-1, 72, 898, 484}, LockLeft | LockTop | LockRight | LockBottom},
+        {Ueber_Button, "Ueber_Button", {30, 20, 98, 20}, LockLeft | LockTop},
+        {Namen_Button, "Namen_Button", {145, 20, 142, 20}, LockLeft | LockTop},
+        {Ergebnisse_Button, "Ergebnisse_Button", {303, 20, 191, 20}, LockLeft | LockTop},
+        {Korrektur_Button, "Korrektur_Button", {510, 20, 191, 20}, LockLeft | LockTop},
+        {PushButton5, "PushButton5", {730, 576, 138, 20}, LockRight | LockBottom},
+        {Neustart_Button, "Neustart_Button", {770, 20, 98, 20}, LockLeft | LockTop},
+        {PushButton1, "PushButton1", {286, 576, 80, 20}, LockLeft | LockBottom},
+        {PushButton2, "PushButton2", {203, 576, 80, 20}, LockLeft | LockBottom},
+        {PushButton6, "PushButton6", {120, 576, 80, 20}, LockLeft | LockBottom},
+        {Label1, "Label1", {30, 576, 91, 20}, LockLeft | LockBottom},
+    };
+    QWidget *vorher = nullptr;
+    for (const auto &c : controls) {
+        c.control->setParent(inhalt);
+        c.control->setObjectName(QLatin1String(c.name));
+        anker->setze(c.control, c.geometrie, c.locks);
+        // The tab order is the order of creation; the label takes no focus.
+        if (c.control != Label1) {
+            if (vorher)
+                setTabOrder(vorher, c.control);
+            vorher = c.control;
+        }
+    }
+
+    QFont fett = PushButton5->font();
+    fett.setBold(true);
+    PushButton5->setFont(fett);
+
+    // The sheet can be read, selected and copied, never edited; it has no undo of its own,
+    // so an "Undo" can never take a game off the sheet.
+    Anzeige->setReadOnly(true);
+    Anzeige->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    Anzeige->setUndoRedoEnabled(false);
+    Anzeige->setAcceptRichText(false);
+    Anzeige->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    Anzeige->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Anzeige->setLineWrapMode(QTextEdit::WidgetWidth);
+    Anzeige->setFont(platform::font("system", LayoutSchriftgroesse));
+
+    connect(Ueber_Button, &QPushButton::clicked, this, &Spielstand::Ueber_Button_Pressed);
+    connect(Namen_Button, &QPushButton::clicked, this, &Spielstand::Namen_Button_Pressed);
+    connect(Ergebnisse_Button, &QPushButton::clicked, this, &Spielstand::Ergebnisse_Button_Pressed);
+    connect(Korrektur_Button, &QPushButton::clicked, this, &Spielstand::Korrektur_Button_Pressed);
+    connect(PushButton5, &QPushButton::clicked, this, &Spielstand::PushButton5_Pressed);
+    connect(Neustart_Button, &QPushButton::clicked, this, &Spielstand::Neustart_Button_Pressed);
+    connect(PushButton1, &QPushButton::clicked, this, &Spielstand::PushButton1_Pressed);
+    connect(PushButton2, &QPushButton::clicked, this, &Spielstand::PushButton2_Pressed);
+    connect(PushButton6, &QPushButton::clicked, this, &Spielstand::PushButton6_Pressed);
+
+    resize(minimumSizeHint().expandedTo(Inhalt));
+}
+
+void Spielstand::Event_Opening()
+{
+    Modul1.Tagesdatum = DateTime::Now();
+    QFont schrift = Anzeige->font();
+    schrift.setFamily(FontAvailable("Courier") ? u"Courier"_qs : platform::fontFamily("System"));
+    Anzeige->setFont(schrift);
+    Textgroesse = static_cast<std::int64_t>(Anzeige->font().pointSizeF());
+    for (int k = 1; k <= 4; ++k)
+        Modul1.Spieler(k) = StandardName(k);
+    setWindowTitle(u"Tafelkasse Version x vom 16.11.2019"_qs);
+    m_ueberschriften = StandardUeberschriften();
+}
+
+std::string Spielstand::Datum() const
+{
+    return Modul1.Tagesdatum ? Modul1.Tagesdatum->ToString() : std::string();
+}
+
+void Spielstand::Event_Activated()
+{
+    const Freigabe freigabe = FreigabeBei(Modul1.Spiel_Nr);
+    Namen_Button->setEnabled(freigabe.Namen);
+    Ergebnisse_Button->setEnabled(freigabe.Ergebnisse);
+    Korrektur_Button->setEnabled(freigabe.Korrektur);
+    Neustart_Button->setEnabled(freigabe.Neustart);
+    SchreibeBlatt(*Anzeige, Dokument(Modul1, m_ueberschriften, BlattSchrift(), Datum()));
+}
+
+void Spielstand::Neustart()
+{
+    NeustartDaten(Modul1);
+    SchreibeKopf(*Anzeige, Kopf(Modul1, m_ueberschriften, Datum()));
+}
+
+bool Spielstand::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        Event_Activated();
+    return QMainWindow::event(event);
+}
+
+void Spielstand::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // A desktop without a window manager may never activate the window: the sheet of the
+    // empty evening must stand there all the same.
+    if (!m_gezeigt) {
+        m_gezeigt = true;
+        Event_Activated();
+    }
+}
+
+void Spielstand::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    QCoreApplication::exit(0);
+}
+
+void Spielstand::ErgebnisseEingeben()
+{
+    Ergebnisse dialog(this);
+    dialog.SpielerSetzen(Modul1);
+    dialog.exec();
+    // Qt does not activate the main window again when a modal dialog closes, so the
+    // refresh that shows the new game runs here, once the dialog and its handler are done.
+    Event_Activated();
+}
+
+void Spielstand::LetztesSpielKorrigieren()
+{
+    Korrigieren dialog(this);
+    dialog.SpielerSetzen(Modul1);
+    dialog.FormularSetzen(KorrekturFormular(Modul1));
+    dialog.exec();
+    if (Modul1.Gute_Eingabe)
+        Rechnen(Modul1);
+    Event_Activated();
+}
+
+void Spielstand::NeustartFragen()
+{
+    System::Beep();
+    // The warning dialog asks here and answers through DruckKnopf.
+    if (Modul1.DruckKnopf == 1)
+        Neustart();
+    Event_Activated();
+}
+
+void Spielstand::Ueber_Button_Pressed() { }
+
+void Spielstand::Namen_Button_Pressed() { }
+
+void Spielstand::Ergebnisse_Button_Pressed()
+{
+    ErgebnisseEingeben();
+}
+
+void Spielstand::Korrektur_Button_Pressed()
+{
+    LetztesSpielKorrigieren();
+}
+
+void Spielstand::PushButton5_Pressed()
+{
+    QCoreApplication::exit(0);
+}
+
+void Spielstand::Neustart_Button_Pressed()
+{
+    NeustartFragen();
+}
+
+void Spielstand::PushButton1_Pressed()
+{
+    QFont schrift = Anzeige->font();
+    schrift.setPointSizeF(schrift.pointSizeF() + 1);
+    Anzeige->setFont(schrift);
+}
+
+void Spielstand::PushButton2_Pressed()
+{
+    QFont schrift = Anzeige->font();
+    schrift.setPointSizeF(static_cast<qreal>(Textgroesse));
+    Anzeige->setFont(schrift);
+}
+
+void Spielstand::PushButton6_Pressed()
+{
+    QFont schrift = Anzeige->font();
+    if (schrift.pointSizeF() > 1) {
+        schrift.setPointSizeF(schrift.pointSizeF() - 1);
+        Anzeige->setFont(schrift);
+    } else {
+        System::Beep();
+    }
+}
