@@ -199,9 +199,21 @@ void Spielstand::NeustartFragen()
     Event_Activated();
 }
 
-void Spielstand::Ueber_Button_Pressed() { }
+void Spielstand::UeberZeigen() { }
 
-void Spielstand::Namen_Button_Pressed() { }
+void Spielstand::NamenEingeben() { }
+
+void Spielstand::Drucken() { }
+
+void Spielstand::Ueber_Button_Pressed()
+{
+    UeberZeigen();
+}
+
+void Spielstand::Namen_Button_Pressed()
+{
+    NamenEingeben();
+}
 
 void Spielstand::Ergebnisse_Button_Pressed()
 {

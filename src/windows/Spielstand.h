@@ -33,9 +33,14 @@ public:
     void Neustart();
 
     // The commands that a button and a menu item share.
+    void UeberZeigen();
+    void NamenEingeben();
     void ErgebnisseEingeben();
     void LetztesSpielKorrigieren();
     void NeustartFragen();
+
+    // Prints the sheet as it stands, after the system's print dialog.
+    void Drucken();
 
     QTextEdit *const Anzeige;
     QPushButton *const Ueber_Button;
