@@ -13,7 +13,7 @@ top=$(pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libicu-dev)
-packages_test=(xvfb xauth xdotool imagemagick poppler-utils python3)
+packages_test=(xvfb xauth xdotool imagemagick poppler-utils python3 clang-14 libclang-rt-14-dev)
 
 install_missing() {
     local missing=()
@@ -47,6 +47,11 @@ test)
     ctest --test-dir "$top/build" --output-on-failure --parallel "$jobs"
     configure_and_build build-asan -DCMAKE_BUILD_TYPE=Debug -DTAFELKASSE_WERROR=ON -DTAFELKASSE_SANITIZE=ON
     ctest --test-dir "$top/build-asan" --output-on-failure --parallel "$jobs"
+    # The fuzz targets need clang's libFuzzer; they build alone, not the whole program.
+    CC=clang-14 CXX=clang++-14 cmake -S "$top" -B "$top/build-fuzz" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+        -DTAFELKASSE_WERROR=ON -DTAFELKASSE_FUZZ=ON
+    cmake --build "$top/build-fuzz" --parallel "$jobs" --target ValFuzz AbrechnungFuzz
+    ctest --test-dir "$top/build-fuzz" --output-on-failure -L fuzz
     ;;
 *)
     echo "usage: scripts/dev.sh run|test" >&2
