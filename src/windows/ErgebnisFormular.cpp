@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <limits>
+
 namespace {
 
 // Radio buttons stand inside their group box, whose own place is given in window coordinates.
@@ -51,6 +53,8 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
         Felder[k] = new QLineEdit(this);
         Felder[k]->setObjectName(layout.feldName + QString::number(k + 1));
         Felder[k]->setGeometry(layout.felder[k]);
+        // A score is never refused, however long its text; a line edit would cut it at 32767.
+        Felder[k]->setMaxLength(std::numeric_limits<int>::max());
     }
     for (int k = 0; k < 4; ++k) {
         Spieler[k] = new QLabel(u"Spieler %1:"_qs.arg(k + 1), this);

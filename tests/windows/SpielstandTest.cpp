@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QTextEdit>
 
+#include <cstdint>
+#include <limits>
 #include <memory>
 
 class SpielstandTest : public QObject {
@@ -213,6 +215,23 @@ private Q_SLOTS:
         QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
         QCOMPARE(Modul1.Spiel_Nr, 1);
         QVERIFY(!Modul1.Gute_Eingabe);
+        verifySheetIsLedger();
+    }
+
+    void aScoreOfAnyLengthIsTakenWhole()
+    {
+        // Pasted text far beyond a line edit's usual limit of 32767 characters: the number
+        // at its end is read, and a number beyond 64 bits stops at the largest one.
+        const QString blanks(40000, u' ');
+        whenModal([&](QWidget *dialog) {
+            child<QLineEdit>(dialog, "Ergebnis1")->insert(blanks + u"7"_qs);
+            child<QLineEdit>(dialog, "Ergebnis2")->insert(u"9"_qs.repeated(40000));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
+        QCOMPARE(Modul1.Spiel_Nr, 1);
+        QCOMPARE(Modul1.Ergebnis_1[1], 7);
+        QCOMPARE(Modul1.Ergebnis_2[1], std::numeric_limits<std::int64_t>::max());
         verifySheetIsLedger();
     }
 
