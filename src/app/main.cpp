@@ -4,6 +4,7 @@
 // Start-up in its fixed order: the evening's ledger exists before anything else (it is a
 // global), then the application with the desktop's services, then the one main window,
 // which takes its date and default names before it first draws the sheet.
+#include "platform/PrintDialog.h"
 #include "platform/QtServices.h"
 #include "windows/Spielstand.h"
 
@@ -15,6 +16,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(u"Tafelkasse"_qs);
     QApplication::setApplicationVersion(u"1.0.0"_qs);
     platform::QtServices dienste;
+    platform::QtPrintDialog druckdialog;
+    platform::install(&druckdialog);
 
     Spielstand fenster;
     fenster.show();

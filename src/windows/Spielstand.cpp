@@ -2,18 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Spielstand.h"
 
+#include "Achtung.h"
 #include "Ergebnisse.h"
 #include "Korrigieren.h"
+#include "Menue.h"
+#include "Namen.h"
+#include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
 #include "platform/Anker.h"
+#include "platform/PrintDialog.h"
 #include "platform/QtText.h"
 #include "platform/System.h"
 #include "view/BlattSchreiben.h"
+#include "view/Drucken.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -46,6 +53,9 @@ void Spielstand::Layout()
 {
     setWindowTitle(u" Tafelkasse "_qs);
     setObjectName(u"Spielstand"_qs);
+    // The menu bar stands above the content, which keeps its first size of 896 by 616.
+    m_menue = new Menue(*this);
+    setMenuBar(m_menue);
 
     auto *inhalt = new QWidget;
     inhalt->setMinimumSize(Inhalt);
@@ -136,6 +146,7 @@ void Spielstand::Event_Activated()
     Ergebnisse_Button->setEnabled(freigabe.Ergebnisse);
     Korrektur_Button->setEnabled(freigabe.Korrektur);
     Neustart_Button->setEnabled(freigabe.Neustart);
+    m_menue->Event_MenuSelected();
     SchreibeBlatt(*Anzeige, Dokument(Modul1, m_ueberschriften, BlattSchrift(), Datum()));
 }
 
@@ -193,17 +204,39 @@ void Spielstand::LetztesSpielKorrigieren()
 void Spielstand::NeustartFragen()
 {
     System::Beep();
-    // The warning dialog asks here and answers through DruckKnopf.
+    Achtung dialog(this);
+    dialog.exec();
     if (Modul1.DruckKnopf == 1)
         Neustart();
+    // Neustart writes the head but leaves the buttons; the refresh that Qt does not send
+    // after a modal dialog brings them in line with the empty evening.
     Event_Activated();
 }
 
-void Spielstand::UeberZeigen() { }
+void Spielstand::UeberZeigen()
+{
+    if (!m_ueber)
+        m_ueber = new UeberTafelkasse(this);
+    m_ueber->show();
+    m_ueber->raise();
+    m_ueber->activateWindow();
+}
 
-void Spielstand::NamenEingeben() { }
+void Spielstand::NamenEingeben()
+{
+    Namen dialog(this);
+    dialog.exec();
+    // The sheet takes up the new names and carry-overs at the refresh, which Qt does not
+    // start by itself when a modal dialog closes.
+    Event_Activated();
+}
 
-void Spielstand::Drucken() { }
+void Spielstand::Drucken()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    if (OpenPrinterDialog(printer))
+        DruckeBlatt(*Anzeige->document(), printer);
+}
 
 void Spielstand::Ueber_Button_Pressed()
 {

@@ -15,10 +15,13 @@
 #include "view/Blatt.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
+class Menue;
 class QLabel;
 class QPushButton;
 class QTextEdit;
+class UeberTafelkasse;
 
 class Spielstand : public QMainWindow {
     Q_OBJECT
@@ -82,4 +85,8 @@ private:
 
     Ueberschriften m_ueberschriften;
     bool m_gezeigt = false;
+    // The window's menu bar, made in Layout.
+    Menue *m_menue = nullptr;
+    // The about window while it exists, shown or hidden; its close box ends it.
+    QPointer<UeberTafelkasse> m_ueber;
 };

@@ -26,5 +26,6 @@ inline void whenModal(std::function<void(QWidget *)> answer, int triesLeft = 500
 template<typename T>
 T *child(QWidget *parent, const char *name)
 {
-    return parent ? parent->findChild<T *>(QLatin1String(name)) : nullptr;
+    // Object names such as "Übertrag_1" are UTF-8, like the sources.
+    return parent ? parent->findChild<T *>(QString::fromUtf8(name)) : nullptr;
 }

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PrintDialog.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace {
+
+class CancelledPrint final : public platform::PrintDialogService {
+public:
+    bool exec(QPrinter &) override { return false; }
+};
+
+CancelledPrint cancelledPrint;
+platform::PrintDialogService *printDialogService = &cancelledPrint;
+
+} // namespace
+
+namespace platform {
+
+void install(PrintDialogService *service)
+{
+    printDialogService = service ? service : &cancelledPrint;
+}
+
+bool QtPrintDialog::exec(QPrinter &printer)
+{
+    QPrintDialog dialog(&printer);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+} // namespace platform
+
+bool OpenPrinterDialog(QPrinter &printer)
+{
+    return printDialogService->exec(printer);
+}

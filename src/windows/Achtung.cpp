@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Achtung.h"
+
+#include "ledger/Modul1.h"
+#include "platform/QtText.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int CanvasSeite = 46;
+
+// The warning icon of the desktop's style, drawn at the top left of the canvas and never
+// larger than the canvas.
+class WarnSymbol : public QWidget {
+public:
+    explicit WarnSymbol(QWidget *parent)
+        : QWidget(parent)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override { Canvas1_Paint(); }
+
+private:
+    void Canvas1_Paint()
+    {
+        const int seite = std::min(CanvasSeite, style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this));
+        QPainter painter(this);
+        style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, 0, 0, seite, seite);
+    }
+};
+
+} // namespace
+
+Achtung::Achtung(QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , Canvas1(new WarnSymbol(this))
+    , Abbruch(new QPushButton(u"Abbruch"_qs, this))
+    , OK(new QPushButton(u"OK"_qs, this))
+    , StaticText1(
+          new QLabel(u"Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"_qs, this))
+{
+    Layout();
+}
+
+void Achtung::Layout()
+{
+    setObjectName(u"Achtung"_qs);
+    setWindowTitle(QString());
+    setFixedSize(345, 160);
+    setModal(true);
+
+    Canvas1->setObjectName(u"Canvas1"_qs);
+    Canvas1->setGeometry(13, 31, CanvasSeite, CanvasSeite);
+    Abbruch->setObjectName(u"Abbruch"_qs);
+    Abbruch->setGeometry(59, 106, 74, 20);
+    OK->setObjectName(u"OK"_qs);
+    OK->setGeometry(206, 106, 74, 20);
+    StaticText1->setObjectName(u"StaticText1"_qs);
+    StaticText1->setGeometry(71, 31, 255, 53);
+    StaticText1->setWordWrap(true);
+    StaticText1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    setTabOrder(Abbruch, OK);
+    OK->setDefault(true);
+    // Return always confirms, even when the focus stands on Abbruch; Abbruch is pressed by
+    // Esc, by a click or by the space bar.
+    Abbruch->setAutoDefault(false);
+
+    connect(Abbruch, &QPushButton::clicked, this, &Achtung::Abbruch_Pressed);
+    connect(OK, &QPushButton::clicked, this, &Achtung::OK_Pressed);
+}
+
+void Achtung::reject()
+{
+    Abbruch_Pressed();
+}
+
+void Achtung::Abbruch_Pressed()
+{
+    Modul1.DruckKnopf = 0;
+    QDialog::reject();
+}
+
+void Achtung::OK_Pressed()
+{
+    Modul1.DruckKnopf = 1;
+    accept();
+}

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Namen.h"
+
+#include "ledger/Eingabe.h"
+#include "platform/QtText.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <limits>
+
+Namen::Namen(QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
+    , StaticText1(new QLabel(u"Spieler 1:"_qs, this))
+    , StaticText2(new QLabel(u"Spieler 2:"_qs, this))
+    , StaticText3(new QLabel(u"Spieler 3:"_qs, this))
+    , StaticText4(new QLabel(u"Spieler 4:"_qs, this))
+    , Name_1(new QLineEdit(this))
+    , Name_2(new QLineEdit(this))
+    , Name_3(new QLineEdit(this))
+    , Name_4(new QLineEdit(this))
+    , Abbruch_Name(new QPushButton(u"Abbruch"_qs, this))
+    , OK_Name(new QPushButton(u"OK"_qs, this))
+    , Uebertrag_1(new QLineEdit(this))
+    , Uebertrag_2(new QLineEdit(this))
+    , Uebertrag_3(new QLineEdit(this))
+    , Uebertrag_4(new QLineEdit(this))
+    , StaticText5(new QLabel(u"Namen:"_qs, this))
+    , StaticText6(new QLabel(u"ggfs. Übertrag:"_qs, this))
+{
+    Layout();
+}
+
+void Namen::Layout()
+{
+    setObjectName(u"Namen"_qs);
+    setWindowTitle(u"Namen der MitspielerInnen"_qs);
+    setFixedSize(333, 231);
+    setModal(true);
+
+    const struct {
+        QWidget *control;
+        QString name;
+        QRect geometrie;
+    } controls[] = {
+        {StaticText1, u"StaticText1"_qs, {10, 55, 60, 16}},
+        {StaticText2, u"StaticText2"_qs, {10, 84, 60, 16}},
+        {StaticText3, u"StaticText3"_qs, {10, 113, 60, 16}},
+        {StaticText4, u"StaticText4"_qs, {10, 142, 60, 16}},
+        {Name_1, u"Name_1"_qs, {103, 52, 100, 22}},
+        {Name_2, u"Name_2"_qs, {103, 81, 100, 22}},
+        {Name_3, u"Name_3"_qs, {103, 110, 100, 22}},
+        {Name_4, u"Name_4"_qs, {103, 139, 100, 22}},
+        {Abbruch_Name, u"Abbruch_Name"_qs, {70, 189, 74, 20}},
+        {OK_Name, u"OK_Name"_qs, {209, 189, 74, 20}},
+        {Uebertrag_1, u"Übertrag_1"_qs, {231, 52, 80, 22}},
+        {Uebertrag_2, u"Übertrag_2"_qs, {231, 81, 80, 22}},
+        {Uebertrag_3, u"Übertrag_3"_qs, {231, 110, 80, 22}},
+        {Uebertrag_4, u"Übertrag_4"_qs, {231, 139, 80, 22}},
+        {StaticText5, u"StaticText5"_qs, {103, 25, 60, 16}},
+        {StaticText6, u"StaticText6"_qs, {211, 25, 100, 16}},
+    };
+    QWidget *vorher = nullptr;
+    for (const auto &c : controls) {
+        c.control->setObjectName(c.name);
+        c.control->setGeometry(c.geometrie);
+        // The tab order is the order of creation: down the names, over the two buttons,
+        // down the carry-overs. Labels take no focus.
+        if (c.control->focusPolicy() != Qt::NoFocus) {
+            if (vorher)
+                setTabOrder(vorher, c.control);
+            vorher = c.control;
+        }
+    }
+
+    // A name or a carry-over may be of any length; a line edit would cut it at 32767.
+    for (QLineEdit *feld : {Name_1, Name_2, Name_3, Name_4, Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4})
+        feld->setMaxLength(std::numeric_limits<int>::max());
+
+    OK_Name->setDefault(true);
+    // Return in any field means OK, also after the user has tabbed over Abbruch.
+    Abbruch_Name->setAutoDefault(false);
+    Name_1->setFocus();
+
+    connect(Abbruch_Name, &QPushButton::clicked, this, &Namen::Abbruch_Name_Pressed);
+    connect(OK_Name, &QPushButton::clicked, this, &Namen::OK_Name_Pressed);
+}
+
+void Namen::reject()
+{
+    Abbruch_Name_Pressed();
+}
+
+void Namen::Abbruch_Name_Pressed()
+{
+    QDialog::reject();
+}
+
+void Namen::OK_Name_Pressed()
+{
+    NamenForm form;
+    const QLineEdit *const namen[] = {Name_1, Name_2, Name_3, Name_4};
+    const QLineEdit *const uebertraege[] = {Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4};
+    for (std::size_t k = 0; k < 4; ++k) {
+        form.Name[k] = utf8(namen[k]->text());
+        form.Uebertrag[k] = utf8(uebertraege[k]->text());
+    }
+    Namen_OK(Modul1, form);
+    accept();
+}

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "UeberTafelkasse.h"
+
+#include "ledger/Modul1.h"
+#include "platform/QtText.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+
+UeberTafelkasse::UeberTafelkasse(QWidget *parent)
+    : QWidget(parent,
+              Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
+                  | Qt::WindowMinimizeButtonHint)
+    , StaticText1(new QLabel(u"Tafelkasse"_qs, this))
+    , StaticText2(new QLabel(u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
+                             u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
+                             u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_qs,
+                             this))
+    , StaticText3(new QLabel(u"Freie Software der Tafelkasse-Entwickler"_qs, this))
+{
+    Layout();
+    Event_Opening();
+}
+
+void UeberTafelkasse::Layout()
+{
+    setObjectName(u"UeberTafelkasse"_qs);
+    setWindowTitle(u"Tafelkasse"_qs);
+    setFixedSize(429, 201);
+    // The close box ends the window; the next "Über…" makes a new one.
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    QPalette farben = palette();
+    farben.setColor(QPalette::Window, QColor(0xEE, 0xEE, 0xEE));
+    farben.setColor(QPalette::WindowText, Qt::black);
+    setPalette(farben);
+    setAutoFillBackground(true);
+
+    const struct {
+        QLabel *label;
+        QString name;
+        QRect geometrie;
+        bool mehrzeilig;
+    } labels[] = {
+        {StaticText1, u"StaticText1"_qs, {21, 20, 388, 48}, false},
+        {StaticText2, u"StaticText2"_qs, {21, 74, 384, 53}, true},
+        {StaticText3, u"StaticText3"_qs, {20, 149, 397, 25}, true},
+    };
+    for (const auto &l : labels) {
+        l.label->setObjectName(l.name);
+        l.label->setGeometry(l.geometrie);
+        l.label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        l.label->setWordWrap(l.mehrzeilig);
+    }
+}
+
+namespace {
+
+// The labels are placed for a desktop on which a point is a pixel. Where a point is larger
+// (12 points are 16 pixels at 96 dpi) the second line would wrap and push the third out of
+// its label, so the sizes 36 and 12 are taken in pixels: as large as the places allow.
+QFont schriftImRaster(std::string_view name, int groesse)
+{
+    QFont schrift(platform::fontFamily(name));
+    schrift.setPixelSize(groesse);
+    return schrift;
+}
+
+} // namespace
+
+void UeberTafelkasse::Event_Opening()
+{
+    const std::string_view schrift = FontAvailable("Palatino") ? "Palatino" : "System";
+    StaticText1->setFont(schriftImRaster(schrift, 36));
+    StaticText2->setFont(schriftImRaster(schrift, 12));
+    StaticText3->setFont(schriftImRaster(schrift, 12));
+}
+
+void UeberTafelkasse::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    Event_MouseDown();
+}
+
+void UeberTafelkasse::Event_MouseDown()
+{
+    // Hidden, not closed: the next "Über…" shows this same window again.
+    hide();
+}
