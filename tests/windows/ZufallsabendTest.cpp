@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Thousands of random actions at the table, through buttons, shortcuts and menu items, with
+// any text in any field. A model of the evening follows what the user meant; after every
+// action the ledger, the enabled controls and the sheet must agree with it.
+// TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS sets its length (5000).
+#include "Doubles.h"
+#include "Modal.h"
+#include "PrintDoubles.h"
+#include "SheetImage.h"
+#include "platform/Text.h"
+#include "windows/Spielstand.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTextEdit>
+
+#include <random>
+
+namespace {
+
+struct Spiel {
+    int winner, east; // 0 to 3, as chosen in the dialog
+    std::array<std::int64_t, 4> scores;
+};
+
+// What the user has done to the evening, kept apart from the program's ledger.
+struct Modell {
+    std::array<std::string, 4> names{StandardName(1), StandardName(2), StandardName(3), StandardName(4)};
+    std::array<std::int64_t, 4> carry{};
+    std::vector<Spiel> games;
+    double size = 12;
+    int beeps = 0;
+};
+
+} // namespace
+
+class ZufallsabendTest : public QObject {
+    Q_OBJECT
+
+    std::mt19937_64 rng;
+    Modell model;
+    QStringList log;
+    bool answered = true; // whether the dialog the last action expected came up
+
+    // Answers the dialog that the next command must open.
+    void expect(std::function<void(QWidget *)> answer)
+    {
+        answered = false;
+        whenModal([this, answer](QWidget *dialog) {
+            answered = true;
+            answer(dialog);
+        });
+    }
+
+    int below(int n) { return int(rng() % unsigned(n)); }
+
+    QString randomText(bool name)
+    {
+        static const QStringList kinds{u""_qs, u"   "_qs, u"12.9"_qs, u"-3.7"_qs, u"1e3"_qs, u" -2.5E2xyz"_qs,
+                                       u"1e400"_qs, u"-99999999999999999999"_qs, u"abc"_qs, u"+-5"_qs,
+                                       u".5"_qs, u"9223372036854775807"_qs, u"Mah 🀄 Jongg"_qs};
+        switch (below(name ? 5 : 4)) {
+        case 0: return kinds[below(int(kinds.size()))];
+        case 1: return QString::number(qint64(below(2001) - 1000));
+        case 2: return QString::number(qint64(rng()));
+        case 3: return name ? u"Äöü ß "_qs.repeated(below(300)) : u"7"_qs.repeated(below(40));
+        default: return QString::fromStdString(model.names[size_t(below(4))]); // an equal name
+        }
+    }
+
+    static void type(QLineEdit *field, const QString &text)
+    {
+        field->selectAll();
+        field->del();
+        field->insert(text);
+    }
+
+    // One of the three ways to a command: its button, its shortcut, its menu item.
+    void command(Spielstand &w, QPushButton *button, Qt::Key key, const char *item)
+    {
+        const int way = button ? below(key ? 3 : 2) : 1 + below(2);
+        log.last() += QStringList{u" (button)"_qs, u" (menu)"_qs, u" (shortcut)"_qs}[way];
+        switch (way) {
+        case 0: QTest::mouseClick(button, Qt::LeftButton); break;
+        case 1: w.findChild<QAction *>(QLatin1String(item))->trigger(); break;
+        default:
+            w.activateWindow();
+            QTRY_VERIFY(QApplication::activeWindow() == &w);
+            QTest::keyClick(&w, key, Qt::ControlModifier);
+        }
+    }
+
+    void answerGame(QWidget *dialog, const char *field, bool correction)
+    {
+        Spiel spiel{below(4), below(4), {}};
+        for (int k = 0; k < 4; ++k) {
+            auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field) + QString::number(k + 1));
+            if (!correction || below(2))
+                type(edit, randomText(false));
+            spiel.scores[size_t(k)] = ZahlAusText(edit->text().toStdString());
+        }
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_qs.arg(spiel.winner + 1)), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_qs.arg(spiel.east + 1)), Qt::LeftButton);
+        if (below(5) == 0) {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+            return;
+        }
+        QTest::keyClick(dialog, Qt::Key_Return);
+        if (correction)
+            model.games.back() = spiel;
+        else
+            model.games.push_back(spiel);
+    }
+
+    void answerNames(QWidget *dialog)
+    {
+        Modell next = model;
+        for (int k = 0; k < 4; ++k) {
+            const QString name = randomText(true), carry = randomText(false);
+            type(dialog->findChild<QLineEdit *>(u"Name_%1"_qs.arg(k + 1)), name);
+            type(dialog->findChild<QLineEdit *>(u"Übertrag_%1"_qs.arg(k + 1)), carry);
+            next.names[size_t(k)] = name.isEmpty() ? StandardName(k + 1) : name.toStdString();
+            next.carry[size_t(k)] = ZahlAusText(carry.toStdString());
+        }
+        switch (below(3)) {
+        case 0: QTest::mouseClick(dialog->findChild<QPushButton *>(u"Abbruch_Name"_qs), Qt::LeftButton); break;
+        case 1: dialog->close(); break;
+        default: QTest::mouseClick(dialog->findChild<QPushButton *>(u"OK_Name"_qs), Qt::LeftButton); model = next;
+        }
+    }
+
+    void act(Spielstand &w)
+    {
+        const auto n = int(model.games.size());
+        const int choice = below(300);
+        if (choice < 150) {
+            log << u"Ergebnisse"_qs;
+            if (n < 99)
+                expect([this](QWidget *d) { answerGame(d, "Ergebnis", false); });
+            command(w, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
+        } else if (choice < 190) {
+            log << u"Korrektur"_qs;
+            if (n > 0)
+                expect([this](QWidget *d) { answerGame(d, "Korrektur", true); });
+            command(w, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
+        } else if (choice < 215) {
+            log << u"Namen"_qs;
+            if (n == 0)
+                expect([this](QWidget *d) { answerNames(d); });
+            command(w, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
+        } else if (choice < 218) {
+            const bool ok = below(2);
+            log << (ok ? u"Neustart OK"_qs : u"Neustart Abbruch"_qs);
+            if (n > 0) {
+                ++model.beeps;
+                expect([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); });
+                if (ok) {
+                    model.games.clear();
+                    model.carry = {};
+                }
+            }
+            command(w, w.Neustart_Button, Qt::Key_N, "AblageNeu");
+        } else if (choice < 280) {
+            const int which = below(3);
+            log << QStringList{u"größer"_qs, u"Standard"_qs, u"kleiner"_qs}[which];
+            QTest::mouseClick(QList{w.PushButton1, w.PushButton2, w.PushButton6}[which], Qt::LeftButton);
+            if (which == 0)
+                ++model.size;
+            else if (which == 1)
+                model.size = 12;
+            else if (model.size > 1)
+                --model.size;
+            else
+                ++model.beeps;
+        } else if (choice < 285) {
+            log << u"Drucken"_qs; // the dialog cancels: nothing may change
+            command(w, nullptr, Qt::Key_P, "AblageDrucken");
+        } else {
+            log << u"Über"_qs;
+            command(w, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
+            QWidget *about = w.findChild<QWidget *>(u"UeberTafelkasse"_qs);
+            QVERIFY(about && about->isVisible());
+            if (below(2))
+                QTest::mouseClick(about, Qt::LeftButton);
+            else
+                about->close();
+        }
+        QTest::qWait(0);
+    }
+
+    // Empty when ledger, controls and sheet agree with the model and with each other.
+    QString disagreement(Spielstand &w, int beeps)
+    {
+        const Abend &a = Modul1;
+        const auto n = std::int64_t(model.games.size());
+        if (a.Spiel_Nr != n)
+            return u"Spiel_Nr %1, expected %2"_qs.arg(a.Spiel_Nr).arg(n);
+        for (int k = 1; k <= 4; ++k) {
+            if (a.Spieler(k) != model.names[size_t(k - 1)] || a.Stand(k)[0] != model.carry[size_t(k - 1)])
+                return u"name or carry-over of player %1"_qs.arg(k);
+        }
+        for (std::int64_t i = 1; i <= n; ++i) {
+            const Spiel &s = model.games[size_t(i - 1)];
+            if (a.Mahjongg[size_t(i)] != model.names[size_t(s.winner)] || a.Osten[size_t(i)] != model.names[size_t(s.east)])
+                return u"Mah Jongg or East of game %1"_qs.arg(i);
+            std::uint64_t sum = 0;
+            for (int k = 1; k <= 4; ++k) {
+                const auto u = std::uint64_t(a.Umsatz(k)[size_t(i)]);
+                sum += u;
+                if (a.Ergebnis(k)[size_t(i)] != s.scores[size_t(k - 1)]
+                    || std::uint64_t(a.Stand(k)[size_t(i)]) != std::uint64_t(a.Stand(k)[size_t(i - 1)]) + u)
+                    return u"score or balance of player %1 in game %2"_qs.arg(k).arg(i);
+            }
+            if (sum != 0)
+                return u"the turnovers of game %1 do not add up to 0"_qs.arg(i);
+        }
+        const QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
+                                  w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
+        const QList<bool> expected{n == 0, n < 99, n > 0, n > 0};
+        if (enabled != expected)
+            return u"buttons at %1 games"_qs.arg(n);
+        QList<bool> items;
+        for (const char *name : {"ErgebnisseNamenderSpieler", "ErgebnisseErgebnisseeingeben",
+                                 "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
+            items << w.findChild<QAction *>(QLatin1String(name))->isEnabled();
+        if (items != expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
+            return u"menu items at %1 games"_qs.arg(n);
+        if (beeps != model.beeps)
+            return u"%1 beeps, expected %2"_qs.arg(beeps).arg(model.beeps);
+        if (w.Anzeige->font().pointSizeF() != model.size)
+            return u"text size %1, expected %2"_qs.arg(w.Anzeige->font().pointSizeF()).arg(model.size);
+        const Blatt blatt = Dokument(a, w.Zeilen(), BlattSchrift(), a.Tagesdatum->ToString());
+        return SheetImage::firstDifference(SheetImage::fromDocument(*w.Anzeige->document()),
+                                           SheetImage::fromPieces(blatt.Stuecke));
+    }
+
+private Q_SLOTS:
+    void thousandsOfActionsKeepLedgerControlsAndSheetTrue()
+    {
+        const QByteArray seedText = qgetenv("TAFELKASSE_SEED");
+        const std::uint64_t seed = seedText.isEmpty() ? std::random_device{}() : seedText.toULongLong();
+        const int actions = qEnvironmentVariableIsSet("TAFELKASSE_ACTIONS") ? qEnvironmentVariableIntValue("TAFELKASSE_ACTIONS") : 5000;
+        qInfo("seed %llu (TAFELKASSE_SEED=%llu replays this run)", qulonglong(seed), qulonglong(seed));
+        rng.seed(seed);
+
+        FixedClock clock;
+        ScopedBeepCounter beeps;
+        ScopedFontList fonts({"Courier", "Palatino"});
+        ScopedPrintDialog printing(false, QString());
+        Modul1 = Abend{};
+        Spielstand window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        int mostGames = 0;
+        for (int i = 0; i < actions; ++i) {
+            act(window);
+            QString problem = disagreement(window, beeps.beeps);
+            if (!answered)
+                problem = u"the dialog did not come up"_qs;
+            mostGames = std::max(mostGames, int(model.games.size()));
+            if (!problem.isEmpty()) {
+                const QString tail = QStringList(log.mid(std::max<qsizetype>(0, log.size() - 40))).join(u", "_qs);
+                QFAIL(qPrintable(u"seed %1, action %2: %3\nlast actions: %4"_qs.arg(seed).arg(i + 1).arg(problem, tail)));
+            }
+        }
+        QVERIFY2(printing.opened > 0, "never printed");
+        // The full ledger is where the guards matter; a run long enough reaches it.
+        if (actions >= 5000)
+            QVERIFY2(mostGames == 99, qPrintable(u"seed %1 never reached 99 games"_qs.arg(seed)));
+    }
+};
+
+QTEST_MAIN(ZufallsabendTest)
+#include "ZufallsabendTest.moc"
