@@ -10,7 +10,7 @@ program=$1 screenshot=$2 way=$3
 here=$(cd "$(dirname "$0")" && pwd)
 
 if [ -z "${DISPLAY:-}" ] || [ "${TAFELKASSE_OWN_X:-}" != 1 ]; then
-    exec env TAFELKASSE_OWN_X=1 xvfb-run -a -s "-screen 0 1280x900x24" "$0" "$@"
+    exec env TAFELKASSE_OWN_X=1 xvfb-run -a -s "-screen 0 2600x1900x24" "$0" "$@"
 fi
 unset QT_QPA_PLATFORM
 
@@ -23,11 +23,15 @@ window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Tafelkasse Vers
 sleep 1 # let the first paint finish before the picture is taken
 import -window root "$screenshot"
 
+# At a scale factor (a high-resolution screen) the window is as many times larger in pixels.
+scale=${QT_SCALE_FACTOR:-1}
+eval "$(xdotool getwindowgeometry --shell "$window")"
+[ "$WIDTH" -ge $((896 * scale)) ] || { echo "window $WIDTH pixels wide at scale $scale"; exit 1; }
+
 case "$way" in
 quit)
     # "Quit" stands in the lower right corner: 97 from the right edge, 30 from the bottom.
-    eval "$(xdotool getwindowgeometry --shell "$window")"
-    xdotool mousemove $((X + WIDTH - 97)) $((Y + HEIGHT - 30)) click 1
+    xdotool mousemove $((X + WIDTH - 97 * scale)) $((Y + HEIGHT - 30 * scale)) click 1
     ;;
 close)
     python3 "$here/close_window.py" "$window"
