@@ -23,9 +23,9 @@ inline void whenModal(std::function<void(QWidget *)> answer, int triesLeft = 500
     });
 }
 
-template<typename T>
-T *child(QWidget *parent, const char *name)
+// The control of that object name, such as "Übertrag_1", or null.
+template <typename T>
+T *child(QWidget *parent, const QString &name)
 {
-    // Object names such as "Übertrag_1" are UTF-8, like the sources.
-    return parent ? parent->findChild<T *>(QString::fromUtf8(name)) : nullptr;
+    return parent ? parent->findChild<T *>(name) : nullptr;
 }

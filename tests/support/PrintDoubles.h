@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Printing without a printer: a print dialog that answers at once, as if the user had
-// chosen to print into a PDF file or had cancelled, and the text of such a file read back
-// with poppler's pdftotext.
+// Printing without a printer: a print dialog that answers at once, as if the user had chosen to print
+// into a PDF file or had cancelled, and such a file read back with poppler's tools.
 #pragma once
 
 #include "platform/PrintDialog.h"
 
 #include <QPrinter>
 #include <QProcess>
-#include <QString>
 #include <QStringList>
 
 class ScopedPrintDialog final : public platform::PrintDialogService {
@@ -34,13 +32,12 @@ public:
     int opened = 0;
 };
 
-// The output of a poppler tool on a file, or an empty string if the tool failed.
-inline QString popplerOutput(const QString &tool, QStringList arguments)
+// What a poppler tool writes about a file, nothing if it cannot run.
+inline QString popplerOutput(const QString &tool, const QStringList &arguments)
 {
     QProcess process;
     process.start(tool, arguments);
-    if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return {};
+    process.waitForFinished(30000);
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
@@ -48,8 +45,6 @@ inline QString popplerOutput(const QString &tool, QStringList arguments)
 inline QStringList pdfPages(const QString &file)
 {
     QStringList pages = popplerOutput(u"pdftotext"_qs, {u"-layout"_qs, file, u"-"_qs}).split(QChar('\f'));
-    // pdftotext ends every page, the last one included, with a form feed.
-    if (!pages.isEmpty() && pages.last().trimmed().isEmpty())
-        pages.removeLast();
+    pages.removeLast(); // pdftotext ends every page, the last one too, with a form feed
     return pages;
 }

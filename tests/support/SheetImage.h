@@ -1,36 +1,45 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The sheet reduced to what a reader sees: its text with "\n" for each line end, and for
-// every other character whether it is bold and whether it is italic. Built either from the
-// document's pieces or read back from a QTextDocument, so the two can be compared.
+// The sheet reduced to what a reader sees: its lines, each as its runs of one style, written "-|" for
+// plain, "b|", "i|" or "bi|" and the run's text. Built from the pieces or read back from a
+// QTextDocument, so that the two can be compared; the fonts are not compared.
 #pragma once
 
 #include "view/Blatt.h"
 
 #include <QSet>
-#include <QString>
+#include <QStringList>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QVector>
+
+#include <algorithm>
 
 struct SheetImage {
-    enum : quint8 { Plain = 0, Bold = 1, Italic = 2, LineEnd = 4 };
-    QString text;
-    QVector<quint8> style; // one entry per UTF-16 unit of text
+    static inline const QStringList styles{u"-|"_qs, u"b|"_qs, u"i|"_qs, u"bi|"_qs}; // by bold + 2 * italic
+    QStringList lines{QString()};
+    QString run; // the style of the last run in the last line
+    QSet<QString> fonts; // read from a document: "family,size" of the fonts its characters are drawn in
+
+    void add(const QString &part, bool bold, bool italic)
+    {
+        const QString style = styles[bold + 2 * italic];
+        for (QChar c : part) {
+            // A line separator inside a paragraph ends a line for the reader as well.
+            if (c == QChar(CR) || c == QChar::ParagraphSeparator || c == QChar::LineSeparator) {
+                lines.append(QString());
+                run.clear();
+            } else {
+                lines.last() += (run == style ? QString() : (run = style)) + c;
+            }
+        }
+    }
 
     static SheetImage fromPieces(const std::vector<Stueck> &pieces)
     {
         SheetImage image;
-        for (const Stueck &piece : pieces) {
-            const QString text = QString::fromStdString(piece.Text);
-            const quint8 s = quint8((piece.Fett ? Bold : 0) | (piece.Kursiv ? Italic : 0));
-            for (QChar c : text) {
-                const bool end = c == QChar(CR) || c == QChar('\n') || c == QChar::ParagraphSeparator;
-                image.text += end ? QChar('\n') : c;
-                image.style += end ? quint8(LineEnd) : s;
-            }
-        }
+        for (const Stueck &piece : pieces)
+            image.add(QString::fromStdString(piece.Text), piece.Fett, piece.Kursiv);
         return image;
     }
 
@@ -38,55 +47,24 @@ struct SheetImage {
     {
         SheetImage image;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-            if (block != document.begin()) {
-                image.text += QChar('\n');
-                image.style += quint8(LineEnd);
-            }
+            if (block != document.begin())
+                image.add(QString(QChar(CR)), false, false);
             for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QTextFragment fragment = it.fragment();
-                const QTextCharFormat format = fragment.charFormat();
-                const quint8 s = quint8((format.fontWeight() >= QFont::Bold ? Bold : 0)
-                                        | (format.fontItalic() ? Italic : 0));
-                for (QChar c : fragment.text()) {
-                    // A line separator inside a paragraph also ends a line for the reader.
-                    const bool end = c == QChar::LineSeparator;
-                    image.text += end ? QChar('\n') : c;
-                    image.style += end ? quint8(LineEnd) : s;
-                }
+                const QTextCharFormat format = it.fragment().charFormat();
+                image.add(it.fragment().text(), format.fontWeight() >= QFont::Bold, format.fontItalic());
+                image.fonts.insert(format.font().resolve(document.defaultFont()).toString().section(u',', 0, 1));
             }
         }
         return image;
     }
 
-    // The font families that the characters of the document carry.
-    static QSet<QString> families(const QTextDocument &document)
-    {
-        QSet<QString> result;
-        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-            for (auto it = block.begin(); !it.atEnd(); ++it)
-                result.insert(it.fragment().charFormat().font().family());
-        }
-        return result;
-    }
-
-    // Where the two first differ, as "position: ..." or empty when they are equal.
+    // The first line in which the two differ, or nothing when they are equal.
     static QString firstDifference(const SheetImage &a, const SheetImage &b)
     {
-        const qsizetype n = std::min(a.text.size(), b.text.size());
-        for (qsizetype i = 0; i < n; ++i) {
-            if (a.text[i] != b.text[i] || a.style[i] != b.style[i])
-                return QStringLiteral("%1: '%2'/%3 vs '%4'/%5 near \"%6\"")
-                    .arg(i)
-                    .arg(a.text[i])
-                    .arg(a.style[i])
-                    .arg(b.text[i])
-                    .arg(b.style[i])
-                    .arg(a.text.mid(std::max<qsizetype>(0, i - 20), 40));
-        }
-        if (a.text.size() != b.text.size())
-            return QStringLiteral("lengths %1 vs %2").arg(a.text.size()).arg(b.text.size());
-        return {};
+        const auto i = std::ranges::mismatch(a.lines, b.lines).in1 - a.lines.begin();
+        return a == b ? QString()
+                      : u"line %1: \"%2\" vs \"%3\""_qs.arg(QString::number(i + 1), a.lines.value(i), b.lines.value(i));
     }
 
-    friend bool operator==(const SheetImage &, const SheetImage &) = default;
+    friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.lines == b.lines; }
 };

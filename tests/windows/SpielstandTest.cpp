@@ -1,321 +1,462 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The main window with its results and correction dialogs, driven as a person drives them:
-// clicks, typing, Return and Esc. After every step the sheet in the window must be the
-// document of the ledger as it stands, styles included.
+// The main window, its menu bar and the windows it opens, driven by clicks and keys as a
+// person drives them: results and corrections, names, the restart, the size and font of the
+// sheet, the about window, the shortcuts, the edit commands and printing.
 #include "Doubles.h"
 #include "Modal.h"
+#include "PrintDoubles.h"
 #include "SheetImage.h"
 #include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
+#include "windows/UeberTafelkasse.h"
 
+#include <QClipboard>
+#include <QDir>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
-
-#include <cstdint>
-#include <limits>
-#include <memory>
 
 class SpielstandTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<FixedClock> clock;
-    std::unique_ptr<ScopedBeepCounter> beeps;
-    std::unique_ptr<ScopedMessageRecorder> messages;
-    std::unique_ptr<ScopedFontList> fonts;
+    FixedClock clock;
+    ScopedBeepCounter beeps;
+    ScopedMessageRecorder messages; // a real message box would stop the test
+    ScopedFontList fonts;
     std::unique_ptr<Spielstand> window;
 
-    QPushButton *button(const char *name) { return child<QPushButton>(window.get(), name); }
-
-    // The sheet in the window must read as the document of the ledger.
-    void verifySheetIsLedger()
+    void openWindow(std::vector<std::string> fontNames)
     {
-        const Blatt blatt = Dokument(Modul1, window->Zeilen(), BlattSchrift(), Modul1.Tagesdatum->ToString());
-        const SheetImage expected = SheetImage::fromPieces(blatt.Stuecke);
-        const SheetImage shown = SheetImage::fromDocument(*window->Anzeige->document());
-        QVERIFY2(shown == expected, qPrintable(SheetImage::firstDifference(shown, expected)));
+        Modul1 = Abend{};
+        beeps.beeps = 0;
+        clock.moment = DateTime{FixedClock::Maerz2021};
+        fonts.fonts = std::move(fontNames);
+        window = std::make_unique<Spielstand>();
+        window->show();
     }
 
-    // Fills the open results or correction dialog and presses OK.
-    static void fillAndConfirm(QWidget *dialog, const char *field, const QStringList &scores, int winner, int east)
+    QPushButton *button(const char *name) const { return child<QPushButton>(window.get(), QLatin1String(name)); }
+    QAction *item(const char *name) const { return child<QAction>(window.get(), QLatin1String(name)); }
+    QString sheet() const { return window->Anzeige->toPlainText(); }
+
+    // Clicks a button of the main window; `answer` runs on the modal dialog that it opens.
+    void press(const char *name, std::function<void(QWidget *)> answer) const
     {
-        for (int k = 0; k < 4; ++k) {
-            auto *edit = child<QLineEdit>(dialog, qPrintable(QLatin1String(field) + QString::number(k + 1)));
-            QVERIFY(edit);
-            edit->selectAll();
-            QTest::keyClicks(edit, scores[k]);
-        }
-        QTest::mouseClick(child<QRadioButton>(dialog, qPrintable(u"Mahjongg_%1"_qs.arg(winner))), Qt::LeftButton);
-        QTest::mouseClick(child<QRadioButton>(dialog, qPrintable(u"Osten_%1"_qs.arg(east))), Qt::LeftButton);
-        QTest::mouseClick(child<QPushButton>(dialog, "OK"), Qt::LeftButton);
+        whenModal(std::move(answer));
+        QTest::mouseClick(button(name), Qt::LeftButton);
     }
 
-    void enterGame(const QStringList &scores, int winner, int east)
+    // Ctrl with a key, typed into the focused control. A desktop makes the main window active
+    // again when a dialog closes; the offscreen platform does not.
+    void command(Qt::Key key) const
     {
-        whenModal([=](QWidget *dialog) { fillAndConfirm(dialog, "Ergebnis", scores, winner, east); });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
     }
 
-    // Games through the ledger alone, where the dialog itself is not under test.
-    static void playGames(int count)
+    // The name of the modal dialog that `act` opens, which is then closed; empty if none.
+    QString dialogOpenedBy(const std::function<void()> &act) const
+    {
+        window->activateWindow(); // first, so that no wait within `act` runs the answer early
+        if (!QTest::qWaitForWindowActive(window.get()))
+            return u"inactive"_qs;
+        QString opened;
+        QTimer::singleShot(0, qApp, [&opened] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                opened = dialog->objectName();
+                dialog->close();
+            }
+        });
+        act();
+        QTest::qWait(20);
+        return opened;
+    }
+
+    // Games straight into the ledger, then the refresh, where the dialog is not under test.
+    void playGames(int count) const
     {
         for (int i = 0; i < count; ++i)
             Ergebnisse_OK(Modul1, {{"10", "20", "30", "40"}, i % 4 + 1, (i + 1) % 4 + 1});
+        window->Event_Activated();
     }
 
-    QVector<bool> buttonStates()
+    // Types the four scores into the open results or correction dialog, picks winner and
+    // East, and presses OK.
+    static void fillAndConfirm(QWidget *dialog, const QStringList &scores, int winner, int east)
     {
-        return {button("Namen_Button")->isEnabled(), button("Ergebnisse_Button")->isEnabled(),
-                button("Korrektur_Button")->isEnabled(), button("Neustart_Button")->isEnabled()};
+        const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
+        for (int k = 0; k < 4; ++k) {
+            fields[k]->selectAll();
+            QTest::keyClicks(fields[k], scores[k]);
+        }
+        click(dialog, u"Mahjongg_%1"_qs.arg(winner));
+        click(dialog, u"Osten_%1"_qs.arg(east));
+        click(dialog, u"OK"_qs);
+    }
+
+    // The texts of the open dialog's fields, then the names of its checked choices.
+    static QStringList formOf(QWidget *dialog)
+    {
+        QStringList form;
+        for (const QLineEdit *field : dialog->findChildren<QLineEdit *>())
+            form << field->text();
+        for (const QRadioButton *choice : dialog->findChildren<QRadioButton *>()) {
+            if (choice->isChecked())
+                form << choice->objectName();
+        }
+        return form;
+    }
+
+    // Types into the open dialog: field name and text in turn.
+    static void type(QWidget *dialog, const QStringList &entries)
+    {
+        for (qsizetype i = 0; i + 1 < entries.size(); i += 2)
+            QTest::keyClicks(child<QLineEdit>(dialog, entries[i]), entries[i + 1]);
+    }
+
+    static void click(QWidget *d, const QString &name) { QTest::mouseClick(child<QWidget>(d, name), Qt::LeftButton); }
+
+    // Each player of the ledger as "name: carry-over".
+    static QStringList players()
+    {
+        QStringList list;
+        for (int k = 1; k <= 4; ++k)
+            list << QString::fromStdString(Modul1.Spieler(k)) + u": "_qs + QString::number(Modul1.Stand(k)[0]);
+        return list;
+    }
+
+    // "family size" of the characters of the sheet, bold and italic ones included.
+    QSet<QString> sheetFonts() const
+    {
+        QSet<QString> found;
+        for (QTextCursor c(window->Anzeige->document()); c.movePosition(QTextCursor::NextCharacter);)
+            found << u"%1 %2"_qs.arg(c.charFormat().font().family()).arg(c.charFormat().font().pointSizeF());
+        return found;
     }
 
 private Q_SLOTS:
     void init()
     {
-        Modul1 = Abend{};
-        clock = std::make_unique<FixedClock>();
-        beeps = std::make_unique<ScopedBeepCounter>();
-        messages = std::make_unique<ScopedMessageRecorder>();
-        fonts = std::make_unique<ScopedFontList>(std::vector<std::string>{"Helvetica", "Courier"});
-        window = std::make_unique<Spielstand>();
-        window->show();
+        openWindow({"Helvetica", "Courier"});
+        window->Anzeige->setFocus();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
     }
 
-    void cleanup()
-    {
-        window.reset();
-        fonts.reset();
-        messages.reset();
-        beeps.reset();
-        clock.reset();
-    }
-
-    void startShowsTheEmptyEvening()
-    {
-        QCOMPARE(window->windowTitle(), u"Tafelkasse Version x vom 16.11.2019"_qs);
-        QCOMPARE(Modul1.Spieler3, "Spieler 3");
-        QCOMPARE(buttonStates(), (QVector<bool>{true, true, false, false}));
-        QCOMPARE(window->Anzeige->toPlainText().count(u'\n') + 1, 11);
-        QVERIFY(window->Anzeige->toPlainText().startsWith(u"Tafelkasse (Test-Version); 12.03.2021, 19:30:00\n"_qs));
-        verifySheetIsLedger();
-    }
+    void cleanup() { window.reset(); }
 
     void anEveningOfEntriesCancelsAndCorrections()
     {
-        enterGame({u"100"_qs, u"20"_qs, u"30"_qs, u"40"_qs}, 1, 2);
-        QCOMPARE(Modul1.Spiel_Nr, 1);
-        QCOMPARE(Modul1.Umsatz_1[1], 400);
-        QCOMPARE(Modul1.Umsatz_2[1], -260);
-        QCOMPARE(buttonStates(), (QVector<bool>{false, true, true, true}));
-        verifySheetIsLedger();
-
-        // Abbruch: no game, and the next entry takes the same row.
-        const QString before = window->Anzeige->toPlainText();
-        whenModal([](QWidget *dialog) { QTest::mouseClick(child<QPushButton>(dialog, "Cancel"), Qt::LeftButton); });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Spiel_Nr, 1);
-        QVERIFY(!Modul1.Gute_Eingabe);
-        QCOMPARE(window->Anzeige->toPlainText(), before);
-
-        enterGame({u"10"_qs, u"8"_qs, u"50"_qs, u"4"_qs}, 3, 3);
-        QCOMPARE(Modul1.Spiel_Nr, 2);
-        QCOMPARE(Modul1.Stand_3[2], Modul1.Stand_3[1] + 300);
-        verifySheetIsLedger();
-
-        // The correction opens on the last game and rewrites only its row.
-        QStringList shownScores;
-        bool winnerShown = false, eastShown = false;
-        whenModal([&](QWidget *dialog) {
-            for (int k = 1; k <= 4; ++k)
-                shownScores << child<QLineEdit>(dialog, qPrintable(u"Korrektur%1"_qs.arg(k)))->text();
-            winnerShown = child<QRadioButton>(dialog, "Mahjongg_3")->isChecked();
-            eastShown = child<QRadioButton>(dialog, "Osten_3")->isChecked();
-            fillAndConfirm(dialog, "Korrektur", {u"10"_qs, u"8"_qs, u"50"_qs, u"40"_qs}, 4, 1);
-        });
-        const std::int64_t firstGameBalance = Modul1.Stand_1[1];
-        QTest::mouseClick(button("Korrektur_Button"), Qt::LeftButton);
-        QCOMPARE(shownScores, (QStringList{u"10"_qs, u"8"_qs, u"50"_qs, u"4"_qs}));
-        QVERIFY(winnerShown && eastShown);
-        QCOMPARE(Modul1.Spiel_Nr, 2);
-        QCOMPARE(Modul1.Stand_1[1], firstGameBalance);
-        QCOMPARE(Modul1.Umsatz_1[2], -156);
-        QCOMPARE(Modul1.Umsatz_4[2], 160);
-        QCOMPARE(Modul1.Stand_4[2], Modul1.Stand_4[1] + 160);
-        QCOMPARE(messages->messages.size(), 0u);
-        verifySheetIsLedger();
-
-        // Abbruch in the correction leaves the row as it is.
-        whenModal([](QWidget *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
-        QTest::mouseClick(button("Korrektur_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Umsatz_4[2], 160);
-        verifySheetIsLedger();
-    }
-
-    void dialogsOpenAsTheyShould()
-    {
         Modul1.Spieler2 = "Bert";
-        Ergebnisse_OK(Modul1, {{"-7", "0", "3", "1"}, 3, 4});
-        window->Event_Activated();
+        press("Ergebnisse_Button", [](QWidget *d) { fillAndConfirm(d, {"100", "20", "30", "40"}, 1, 2); });
 
-        // The entry always opens empty on player 1, whatever the game before was.
-        QStringList texts;
-        bool firstChecked = false;
-        QString secondLabel;
-        whenModal([&](QWidget *dialog) {
-            for (int k = 1; k <= 4; ++k)
-                texts << child<QLineEdit>(dialog, qPrintable(u"Ergebnis%1"_qs.arg(k)))->text();
-            firstChecked = child<QRadioButton>(dialog, "Mahjongg_1")->isChecked()
-                && child<QRadioButton>(dialog, "Osten_1")->isChecked();
-            secondLabel = child<QLabel>(dialog, "Spieler_2")->text();
-            QTest::keyClick(dialog, Qt::Key_Escape);
+        // The entry opens empty on player 1 whatever came before; Abbruch adds no game.
+        const QString before = sheet();
+        QStringList form;
+        press("Ergebnisse_Button", [&](QWidget *d) {
+            form = formOf(d) << child<QLabel>(d, u"Spieler_2"_qs)->text();
+            type(d, {"Ergebnis1", "5"});
+            click(d, u"Cancel"_qs);
         });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
-        QCOMPARE(texts, (QStringList{QString(), QString(), QString(), QString()}));
-        QVERIFY(firstChecked);
-        QCOMPARE(secondLabel, u"Bert:"_qs);
+        QCOMPARE(form, (QStringList{"", "", "", "", "Mahjongg_1", "Osten_1", "Bert:"}));
+        QCOMPARE(sheet(), before);
 
-        // The correction shows a negative score with its sign and a zero as "0".
-        QString negative, zero;
-        whenModal([&](QWidget *dialog) {
-            negative = child<QLineEdit>(dialog, "Korrektur1")->text();
-            zero = child<QLineEdit>(dialog, "Korrektur2")->text();
-            QTest::keyClick(dialog, Qt::Key_Escape);
+        // Return in a field is OK. A pasted score is read whole, beyond a line edit's usual
+        // 32767 characters.
+        press("Ergebnisse_Button", [](QWidget *d) {
+            click(d, u"Mahjongg_3"_qs);
+            click(d, u"Osten_4"_qs);
+            child<QLineEdit>(d, u"Ergebnis1"_qs)->insert(QString(40000, u' ') + u"-7"_qs);
+            type(d, {"Ergebnis2", "12"});
+            QTest::keyClick(child<QLineEdit>(d, u"Ergebnis2"_qs), Qt::Key_Return);
         });
-        QTest::mouseClick(button("Korrektur_Button"), Qt::LeftButton);
-        QCOMPARE(negative, u"-7"_qs);
-        QCOMPARE(zero, u"0"_qs);
+
+        // The correction opens on the last game and rewrites only its row; Esc keeps it.
+        press("Korrektur_Button", [&](QWidget *d) {
+            form = formOf(d);
+            fillAndConfirm(d, {"10", "8", "50", "40"}, 4, 1);
+        });
+        QCOMPARE(form, (QStringList{"-7", "12", "0", "0", "Mahjongg_3", "Osten_4"}));
+        QCOMPARE(Modul1.Spiel_Nr, 2);
+        QCOMPARE(Modul1.Umsatz_4[2], 160);
+        const Blatt blatt = Dokument(Modul1, window->Zeilen(), BlattSchrift(), Modul1.Tagesdatum->ToString());
+        QCOMPARE(SheetImage::firstDifference(SheetImage::fromDocument(*window->Anzeige->document()),
+                                             SheetImage::fromPieces(blatt.Stuecke)),
+                 QString());
+        press("Korrektur_Button", [](QWidget *d) {
+            type(d, {"Korrektur1", "999"});
+            QTest::keyClick(d, Qt::Key_Escape);
+        });
+        QCOMPARE(Modul1.Ergebnis_1[2], 10);
     }
 
-    void returnConfirmsAndEscapeCancels()
-    {
-        // Return in a score field presses OK; nothing typed elsewhere gives 0.
-        whenModal([](QWidget *dialog) {
-            auto *field = child<QLineEdit>(dialog, "Ergebnis2");
-            QTest::keyClicks(field, u"12.9"_qs);
-            QTest::keyClick(field, Qt::Key_Return);
-        });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Spiel_Nr, 1);
-        QVERIFY(Modul1.Gute_Eingabe);
-        QCOMPARE(Modul1.Ergebnis_2[1], 12);
-        QCOMPARE(Modul1.Mahjongg[1], Modul1.Spieler1);
-        QCOMPARE(Modul1.Osten[1], Modul1.Spieler1);
-
-        whenModal([](QWidget *dialog) {
-            QTest::keyClicks(child<QLineEdit>(dialog, "Ergebnis1"), u"55"_qs);
-            QTest::keyClick(child<QLineEdit>(dialog, "Ergebnis1"), Qt::Key_Escape);
-        });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Spiel_Nr, 1);
-        QVERIFY(!Modul1.Gute_Eingabe);
-        verifySheetIsLedger();
-    }
-
-    void aScoreOfAnyLengthIsTakenWhole()
-    {
-        // Pasted text far beyond a line edit's usual limit of 32767 characters: the number
-        // at its end is read, and a number beyond 64 bits stops at the largest one.
-        const QString blanks(40000, u' ');
-        whenModal([&](QWidget *dialog) {
-            child<QLineEdit>(dialog, "Ergebnis1")->insert(blanks + u"7"_qs);
-            child<QLineEdit>(dialog, "Ergebnis2")->insert(u"9"_qs.repeated(40000));
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        QTest::mouseClick(button("Ergebnisse_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Spiel_Nr, 1);
-        QCOMPARE(Modul1.Ergebnis_1[1], 7);
-        QCOMPARE(Modul1.Ergebnis_2[1], std::numeric_limits<std::int64_t>::max());
-        verifySheetIsLedger();
-    }
-
-    void buttonsFollowTheNumberOfGames_data()
+    void buttonsItemsAndShortcutsFollowTheNumberOfGames_data()
     {
         QTest::addColumn<int>("games");
-        QTest::addColumn<QVector<bool>>("states");
-        QTest::newRow("no game") << 0 << QVector<bool>{true, true, false, false};
-        QTest::newRow("one game") << 1 << QVector<bool>{false, true, true, true};
-        QTest::newRow("98 games, one row left") << 98 << QVector<bool>{false, true, true, true};
-        QTest::newRow("99 games, ledger full") << 99 << QVector<bool>{false, false, true, true};
+        QTest::addColumn<QList<bool>>("enabled"); // Namen, Ergebnisse, Korrektur, Neustart
+        QTest::newRow("no game") << 0 << QList<bool>{true, true, false, false};
+        QTest::newRow("one game") << 1 << QList<bool>{false, true, true, true};
+        QTest::newRow("98 games, one row left") << 98 << QList<bool>{false, true, true, true};
+        QTest::newRow("99 games, ledger full") << 99 << QList<bool>{false, false, true, true};
     }
 
-    void buttonsFollowTheNumberOfGames()
+    void buttonsItemsAndShortcutsFollowTheNumberOfGames()
     {
         QFETCH(int, games);
-        QFETCH(QVector<bool>, states);
+        QFETCH(QList<bool>, enabled);
         playGames(games);
-        window->Event_Activated();
-        QCOMPARE(buttonStates(), states);
-        QCOMPARE(window->Anzeige->toPlainText().count(u'\n') + 1, 11 + 9 * games);
-        verifySheetIsLedger();
-    }
+        QList<bool> states;
+        for (const char *name : {"Namen_Button", "Ergebnisse_Button", "Korrektur_Button", "Neustart_Button",
+                                 "ErgebnisseNamenderSpieler", "ErgebnisseErgebnisseeingeben",
+                                 "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
+            states << child<QObject>(window.get(), QLatin1String(name))->property("enabled").toBool();
+        QCOMPARE(states, enabled + enabled);
 
-    void lastOfNinetyNineGamesCanBeCorrected()
-    {
-        playGames(99);
-        window->Event_Activated();
-        whenModal([](QWidget *dialog) {
-            fillAndConfirm(dialog, "Korrektur", {u"1"_qs, u"2"_qs, u"3"_qs, u"4"_qs}, 2, 2);
-        });
-        QTest::mouseClick(button("Korrektur_Button"), Qt::LeftButton);
-        QCOMPARE(Modul1.Spiel_Nr, 99);
-        QCOMPARE(Modul1.Ergebnis_4[99], 4);
-        QCOMPARE(Modul1.Umsatz_2[99], 12);
-        QCOMPARE(Modul1.Stand_2[99], Modul1.Stand_2[98] + 12);
-        QCOMPARE(buttonStates(), (QVector<bool>{false, false, true, true}));
-        verifySheetIsLedger();
-    }
+        // The shortcuts open what the buttons open, where the items are enabled; "Neu" beeps first.
+        const QString none;
+        QCOMPARE(dialogOpenedBy([this] { command(Qt::Key_E); }), enabled[1] ? u"Ergebnisse"_qs : none);
+        QCOMPARE(dialogOpenedBy([this] { command(Qt::Key_K); }), enabled[2] ? u"Korrigieren"_qs : none);
+        QCOMPARE(dialogOpenedBy([this] { command(Qt::Key_N); }), enabled[3] ? u"Achtung"_qs : none);
+        QCOMPARE(beeps.beeps, int(enabled[3]));
+        QCOMPARE(Modul1.Spiel_Nr, games);
+        if (games == 99) { // the last row of a full ledger can still be corrected
+            press("Korrektur_Button", [](QWidget *d) { fillAndConfirm(d, {"1", "2", "3", "4"}, 2, 2); });
+            QCOMPARE(Modul1.Ergebnis_4[99], 4);
+        }
 
-    void equalNamesAndRefreshesKeepTheSheetExact()
-    {
-        Modul1.Spieler1 = "Ann";
-        Modul1.Spieler3 = "Ann";
-        playGames(3);
-        Modul1.Mahjongg[3] = "nobody";
-        window->Event_Activated();
-        window->Event_Activated();
-        verifySheetIsLedger();
-        // The sheet is in the font of the sheet, everywhere.
-        QCOMPARE(SheetImage::families(*window->Anzeige->document()), QSet<QString>{u"Courier"_qs});
-    }
-
-    void theSheetCanBeSelectedAndCopiedButNeverEdited()
-    {
-        const QString before = window->Anzeige->toPlainText();
-        window->Anzeige->setFocus();
-        QTest::keyClicks(window->Anzeige, u"xyz"_qs);
-        QTest::keyClick(window->Anzeige, Qt::Key_Backspace);
-        QCOMPARE(window->Anzeige->toPlainText(), before);
-        QTest::keyClick(window->Anzeige, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(window->Anzeige->textCursor().selectedText().size(), before.size());
+        // Opening a menu sets the items anew, however the number of games came about.
+        Modul1.Spiel_Nr = games == 0 ? 99 : 0;
+        child<QMenu>(window.get(), u"UntitledMenu0"_qs)->popup(QPoint());
+        QCOMPARE(item("ErgebnisseErgebnisseeingeben")->isEnabled(), games != 0);
     }
 
     void controlsFollowTheirLocksWhenTheWindowGrows()
     {
-        QWidget *content = window->centralWidget();
-        QCOMPARE(content->size(), QSize(896, 616));
-        const QRect sheet = window->Anzeige->geometry();
-        const QRect quit = button("PushButton5")->geometry();
-        const QRect restart = button("Neustart_Button")->geometry();
-        const QRect smaller = button("PushButton6")->geometry();
-        QCOMPARE(sheet, QRect(-1, 72, 898, 484));
-
+        const auto places = [this] {
+            return QList<QRect>{window->Anzeige->geometry(), button("PushButton5")->geometry(),
+                                button("Neustart_Button")->geometry(), button("PushButton6")->geometry()};
+        };
+        const QList<QRect> before = places();
         window->resize(window->size() + QSize(100, 100));
-        QTRY_COMPARE(content->size(), QSize(996, 716));
-        QCOMPARE(window->Anzeige->geometry(), sheet.adjusted(0, 0, 100, 100));
-        QCOMPARE(button("PushButton5")->geometry(), quit.translated(100, 100));
-        QCOMPARE(button("Neustart_Button")->geometry(), restart);
-        QCOMPARE(button("PushButton6")->geometry(), smaller.translated(0, 100));
+        QTRY_COMPARE(window->centralWidget()->size(), QSize(996, 716));
+        QCOMPARE(places(), (QList<QRect>{before[0].adjusted(0, 0, 100, 100), before[1].translated(100, 100),
+                                         before[2], before[3].translated(0, 100)}));
+        window->resize(300, 200); // never smaller than at first
+        QTRY_COMPARE(window->centralWidget()->size(), QSize(896, 616));
+    }
 
-        // Never smaller than the first size.
-        window->resize(300, 200);
-        QTRY_COMPARE(content->size(), QSize(896, 616));
+    void namesBeforeTheFirstGameAndRestarts()
+    {
+        press("Namen_Button", [](QWidget *d) {
+            type(d, {"Name_1", "Anna", "Name_2", "  ", "Übertrag_1", "12", "Übertrag_4", "-3"});
+            click(d, u"OK_Name"_qs);
+        });
+        QCOMPARE(players(), (QStringList{"Anna: 12", "  : 0", "Spieler 3: 0", "Spieler 4: -3"}));
+
+        // The second time it opens empty again, and OK by Return takes all eight fields anew.
+        QStringList opened;
+        press("Namen_Button", [&](QWidget *d) {
+            opened = formOf(d);
+            type(d, {"Name_2", "Bert", "Übertrag_3", "500"});
+            QTest::keyClick(child<QLineEdit>(d, u"Name_2"_qs), Qt::Key_Return);
+        });
+        QCOMPARE(opened, QStringList(8, QString()));
+        const QStringList named{"Spieler 1: 0", "Bert: 0", "Spieler 3: 500", "Spieler 4: 0"};
+        QCOMPARE(players(), named);
+
+        // Abbruch and the close box keep what the last OK stored.
+        for (const bool closeBox : {false, true}) {
+            press("Namen_Button", [closeBox](QWidget *d) {
+                type(d, {"Name_1", "Carl", "Übertrag_3", "7"});
+                closeBox ? void(d->close()) : click(d, u"Abbruch_Name"_qs);
+            });
+        }
+        QCOMPARE(players(), named);
+
+        // After games the restart beeps, then warns; OK keeps the names, clears the rest and
+        // dates the sheet anew.
+        playGames(2);
+        clock.moment = DateTime{FixedClock::Maerz2021 + 3'600'000};
+        int beepsAtWarning = -1;
+        press("Neustart_Button", [&](QWidget *d) {
+            beepsAtWarning = beeps.beeps;
+            click(d, u"OK"_qs);
+        });
+        QCOMPARE(beepsAtWarning, 1);
+        QCOMPARE(players(), (QStringList{"Spieler 1: 0", "Bert: 0", "Spieler 3: 0", "Spieler 4: 0"}));
+        QVERIFY(sheet().startsWith(u"Tafelkasse (Test-Version); 12.03.2021, 20:30:00\n"_qs));
+        press("Ergebnisse_Button", [](QWidget *d) { fillAndConfirm(d, {"20", "", "", ""}, 1, 1); });
+        QCOMPARE(Modul1.Spiel_Nr, 1);
+        QCOMPARE(Modul1.Stand_3[1], Modul1.Umsatz_3[1]);
+
+        // Abbruch changes nothing, though the answer before was OK.
+        const QString before = sheet();
+        press("Neustart_Button", [](QWidget *d) { click(d, u"Abbruch"_qs); });
+        QCOMPARE(beeps.beeps, 2);
+        QCOMPARE(sheet(), before);
+    }
+
+    void textSizeAndFontOfTheSheet_data()
+    {
+        QTest::addColumn<bool>("withCourier");
+        QTest::newRow("Courier installed") << true;
+        QTest::newRow("no Courier") << false;
+    }
+
+    void textSizeAndFontOfTheSheet()
+    {
+        QFETCH(bool, withCourier);
+        openWindow({"Palatino", withCourier ? "Courier" : "Courier New"});
+        const QString system = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+        const QString family = withCourier ? u"Courier"_qs : system;
+        for (int i = 0; i < 12; ++i)
+            QTest::mouseClick(button("PushButton6"), Qt::LeftButton);
+        QCOMPARE(beeps.beeps, 1); // eleven steps from 12 to 1, then the beep
+
+        // A game whose winner is not East has bold and italic lines; all keep the size. The
+        // sheet asks for the font at every refresh; a restart writes its head in the window's font.
+        fonts.fonts = {withCourier ? "Courier New" : "Courier"};
+        playGames(1);
+        QCOMPARE(sheetFonts(), QSet<QString>{(withCourier ? system : u"Courier"_qs) + u" 1"_qs});
+        window->Neustart();
+        QCOMPARE(sheetFonts(), QSet<QString>{family + u" 1"_qs});
+        QTest::mouseClick(button("PushButton2"), Qt::LeftButton);
+        QCOMPARE(sheetFonts(), QSet<QString>{family + u" 12"_qs});
+    }
+
+    void aboutWindowHidesByAPressAndComesNewAfterItsCloseBox()
+    {
+        fonts.fonts = {"Courier", "Palatino Linotype"};
+        QTest::mouseClick(button("Ueber_Button"), Qt::LeftButton);
+        QPointer<UeberTafelkasse> about = window->findChild<UeberTafelkasse *>();
+        QStringList shown{about->windowTitle()};
+        for (const QLabel *label : about->findChildren<QLabel *>())
+            shown << label->text() << u"%1 %2"_qs.arg(label->font().family()).arg(label->font().pixelSize());
+        const QString system = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+        QCOMPARE(shown, (QStringList{u"Tafelkasse"_qs, u"Tafelkasse"_qs, system + u" 36"_qs,
+                                     u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
+                                     u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
+                                     u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_qs,
+                                     system + u" 12"_qs, shown[5], system + u" 12"_qs})); // the credit is ours
+
+        // A press on it hides it and "Über…" shows the same window; after the close box a new
+        // one, which looks at the fonts anew.
+        QTest::mousePress(child<QLabel>(about, u"StaticText2"_qs), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // a window that closed would go now
+        QVERIFY(about && about->isHidden());
+        QTest::mouseClick(button("Ueber_Button"), Qt::LeftButton);
+        QVERIFY(about->isVisible());
+        fonts.fonts = {"Palatino"};
+        about->close();
+        QTRY_VERIFY(!about);
+        QTest::mouseClick(button("Ueber_Button"), Qt::LeftButton);
+        QCOMPARE(child<QLabel>(window->findChild<UeberTafelkasse *>(), u"StaticText1"_qs)->font().family(),
+                 u"Palatino"_qs);
+    }
+
+    void menusShowTheirItemsAsWritten()
+    {
+        QStringList entries;
+        for (const QAction *menu : window->menuBar()->actions()) {
+            entries << menu->menu()->objectName() + u':' + menu->text();
+            for (const QAction *a : menu->menu()->actions())
+                entries << a->objectName() + u'|' + (a->isSeparator() ? u"-"_qs : a->text()) + u'|'
+                        + a->shortcut().toString();
+        }
+        QCOMPARE(entries.join(u' '),
+                 u"UntitledMenu3:Ablage AblageNeu|Neu|Ctrl+N AblageSpielstandsichern|Spielstand sichern|Ctrl+S "
+                 u"AblagePapierformat|Papierformat| AblageDrucken|Drucken|Ctrl+P FileQuit|Beenden|Ctrl+Q "
+                 u"UntitledMenu1:Bearbeiten EditUndo|Undo|Ctrl+Z UntitledMenu2|-| EditCut|Ausschneiden|Ctrl+X "
+                 u"EditCopy|Kopieren|Ctrl+C EditPaste|Einfügen|Ctrl+V EditClear|Löschen| "
+                 u"UntitledMenu0:Ergebnisse ErgebnisseNamenderSpieler|Namen der Spieler  | "
+                 u"ErgebnisseErgebnisseeingeben|Ergebnisse eingeben |Ctrl+E "
+                 u"ErgebnisseKorrekturletztesSpiel|Korrektur letztes Spiel|Ctrl+K AppleTafelkasse|Tafelkasse |Ctrl+I "
+                 u"UntitledMenu5:"_qs);
+    }
+
+    void theSheetIsCopiedButNeverEdited()
+    {
+        const QString text = sheet();
+        QTest::keyClicks(window->Anzeige, u"xyz"_qs);
+        QTest::keyClick(window->Anzeige, Qt::Key_Backspace);
+        command(Qt::Key_A);
+        QApplication::clipboard()->setText(u"vorher"_qs);
+        command(Qt::Key_C); // typed into the sheet, it must reach it past the menu's shortcut
+        QCOMPARE(QApplication::focusWidget(), window->Anzeige);
+        QCOMPARE(QApplication::clipboard()->text(), text);
+        for (Qt::Key key : {Qt::Key_X, Qt::Key_V, Qt::Key_Z})
+            command(key);
+        for (const char *name : {"EditCut", "EditPaste", "EditClear", "EditUndo"})
+            item(name)->trigger();
+        QCOMPARE(sheet(), text);
+
+        // "Kopieren" copies the sheet's selection wherever the focus stands.
+        QApplication::clipboard()->setText(u"vorher"_qs);
+        button("Ueber_Button")->setFocus();
+        item("EditCopy")->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), text);
+    }
+
+    void editItemsWorkInTheDialogsTextFields()
+    {
+        QStringList seen;
+        press("Ergebnisse_Button", [&](QWidget *dialog) {
+            // The items act in the active window; on a desktop the dialog is active as it shows.
+            dialog->activateWindow();
+            QVERIFY(QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; }));
+            QLineEdit *field = child<QLineEdit>(dialog, u"Ergebnis1"_qs);
+            QTest::keyClicks(field, u"123"_qs);
+            field->selectAll();
+            for (const char *name : {"EditCut", "EditUndo", "EditClear", "EditPaste", "EditPaste"}) {
+                item(name)->trigger();
+                seen << field->text();
+            }
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(seen, (QStringList{"", "123", "", "123", "123123"}));
+    }
+
+    void printingAsksFirstAndTheOtherFileItemsDoNothing()
+    {
+        QTemporaryDir dir;
+        {
+            ScopedPrintDialog cancelled(false, dir.filePath(u"abbruch.pdf"_qs));
+            command(Qt::Key_P);
+            QCOMPARE(cancelled.opened, 1);
+            QVERIFY(!QFile::exists(cancelled.file));
+        }
+        playGames(1);
+        ScopedPrintDialog printed(true, dir.filePath(u"druck.pdf"_qs));
+        item("AblageDrucken")->trigger();
+        QVERIFY(pdfPages(printed.file).value(0).contains(u"Spiel Nr. 1"_qs));
+
+        const QStringList files = QDir::current().entryList(QDir::AllEntries | QDir::Hidden);
+        QCOMPARE(dialogOpenedBy([this] { command(Qt::Key_S); }), QString());
+        QCOMPARE(dialogOpenedBy([this] { item("AblagePapierformat")->trigger(); }), QString());
+        QCOMPARE(QDir::current().entryList(QDir::AllEntries | QDir::Hidden), files);
+        QCOMPARE((QList<int>{beeps.beeps, printed.opened}), (QList<int>{0, 1})); // no beep, no second print dialog
+    }
+
+    void quitAndBeendenEndTheRunWithCodeZero()
+    {
+        for (const bool byMenu : {false, true}) {
+            QObject scope; // takes the fallback along when the run has ended
+            QTimer::singleShot(5000, &scope, [] { QCoreApplication::exit(7); });
+            QTimer::singleShot(0, &scope, [&] {
+                byMenu ? command(Qt::Key_Q) : QTest::mouseClick(button("PushButton5"), Qt::LeftButton);
+            });
+            QCOMPARE(QApplication::exec(), 0);
+        }
     }
 };
 
