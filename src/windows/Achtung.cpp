@@ -59,6 +59,7 @@ void Achtung::Layout()
 
     Canvas1->setObjectName(u"Canvas1"_qs);
     Canvas1->setGeometry(13, 31, CanvasSeite, CanvasSeite);
+    Canvas1->setAccessibleName(u"Warnung"_qs);
     Abbruch->setObjectName(u"Abbruch"_qs);
     Abbruch->setGeometry(59, 106, 74, 20);
     OK->setObjectName(u"OK"_qs);

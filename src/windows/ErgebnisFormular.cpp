@@ -82,6 +82,7 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     // The scores are what the user types first after a game.
     Felder[0]->setFocus();
 
+    Benennen();
     connect(OK, &QPushButton::clicked, this, &ErgebnisFormular::OK_Pressed);
     connect(Cancel, &QPushButton::clicked, this, &ErgebnisFormular::Cancel_Pressed);
 }
@@ -90,6 +91,18 @@ void ErgebnisFormular::SpielerSetzen(const Abend &abend)
 {
     for (int k = 0; k < 4; ++k)
         Spieler[k]->setText(qs(abend.Spieler(k + 1)) + u':');
+    Benennen();
+}
+
+void ErgebnisFormular::Benennen()
+{
+    // A screen reader announces a field by the player beside it; a radio button, whose text
+    // stands four times, tells the player in its description.
+    for (int k = 0; k < 4; ++k) {
+        Felder[k]->setAccessibleName(Spieler[k]->text() + u" Ergebnis"_qs);
+        Mahjongg[k]->setAccessibleDescription(Spieler[k]->text());
+        Osten[k]->setAccessibleDescription(Spieler[k]->text());
+    }
 }
 
 namespace {

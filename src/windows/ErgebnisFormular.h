@@ -61,4 +61,8 @@ protected:
 
     virtual void OK_Pressed() = 0;
     void Cancel_Pressed();
+
+private:
+    // The accessible names of the rows, after their labels.
+    void Benennen();
 };

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <array>
 #include <limits>
 
 Namen::Namen(QWidget *parent)
@@ -78,6 +79,15 @@ void Namen::Layout()
     // A name or a carry-over may be of any length; a line edit would cut it at 32767.
     for (QLineEdit *feld : {Name_1, Name_2, Name_3, Name_4, Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4})
         feld->setMaxLength(std::numeric_limits<int>::max());
+
+    // A screen reader names each field by its row and its column.
+    const std::array namen{Name_1, Name_2, Name_3, Name_4}, uebertraege{Uebertrag_1, Uebertrag_2, Uebertrag_3,
+                                                                       Uebertrag_4};
+    const std::array zeilen{StaticText1, StaticText2, StaticText3, StaticText4};
+    for (std::size_t k = 0; k < 4; ++k) {
+        namen[k]->setAccessibleName(zeilen[k]->text() + u" Name"_qs);
+        uebertraege[k]->setAccessibleName(zeilen[k]->text() + u" Übertrag"_qs);
+    }
 
     OK_Name->setDefault(true);
     // Return in any field means OK, also after the user has tabbed over Abbruch.

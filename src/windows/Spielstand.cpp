@@ -99,6 +99,7 @@ void Spielstand::Layout()
 
     // The sheet can be read, selected and copied, never edited; it has no undo of its own,
     // so an "Undo" can never take a game off the sheet.
+    Anzeige->setAccessibleName(u"Spielstand"_qs);
     Anzeige->setReadOnly(true);
     Anzeige->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     Anzeige->setUndoRedoEnabled(false);

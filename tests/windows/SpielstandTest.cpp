@@ -12,6 +12,7 @@
 #include "windows/Spielstand.h"
 #include "windows/UeberTafelkasse.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDir>
 #include <QFontDatabase>
@@ -445,6 +446,27 @@ private Q_SLOTS:
         QCOMPARE(dialogOpenedBy([this] { item("AblagePapierformat")->trigger(); }), QString());
         QCOMPARE(QDir::current().entryList(QDir::AllEntries | QDir::Hidden), files);
         QCOMPARE((QList<int>{beeps.beeps, printed.opened}), (QList<int>{0, 1})); // no beep, no second print dialog
+    }
+
+    void everyControlHasAnAccessibleName()
+    {
+        QStringList nameless, fields;
+        const auto check = [&](QWidget *top) {
+            for (QWidget *w : top->findChildren<QWidget *>()) {
+                const QString name = QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+                if (w->focusPolicy() != Qt::NoFocus && name.isEmpty())
+                    nameless << w->objectName();
+                if (qobject_cast<QLineEdit *>(w))
+                    fields << name;
+            }
+        };
+        check(window.get());
+        press("Namen_Button", [&](QWidget *d) { check(d); d->close(); });
+        press("Ergebnisse_Button", [&](QWidget *d) { check(d); d->close(); });
+        QCOMPARE(nameless, QStringList());
+        QCOMPARE(fields.mid(0, 2), (QStringList{u"Spieler 1: Name"_qs, u"Spieler 2: Name"_qs}));
+        QVERIFY(fields.contains(u"Spieler 3: Übertrag"_qs));
+        QVERIFY(fields.contains(u"Spieler 4: Ergebnis"_qs));
     }
 
     void quitAndBeendenEndTheRunWithCodeZero()
