@@ -73,12 +73,7 @@ class ZufallsabendTest : public QObject {
         }
     }
 
-    static void type(QLineEdit *field, const QString &text)
-    {
-        field->selectAll();
-        field->del();
-        field->insert(text);
-    }
+    static void type(QLineEdit *field, const QString &text) { field->selectAll(), field->insert(text); }
 
     // One of the three ways to a command: its button, its shortcut, its menu item.
     void command(Spielstand &w, QPushButton *button, Qt::Key key, const char *item)
@@ -106,15 +101,10 @@ class ZufallsabendTest : public QObject {
         }
         QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_qs.arg(spiel.winner + 1)), Qt::LeftButton);
         QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_qs.arg(spiel.east + 1)), Qt::LeftButton);
-        if (below(5) == 0) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            return;
-        }
-        QTest::keyClick(dialog, Qt::Key_Return);
-        if (correction)
-            model.games.back() = spiel;
-        else
-            model.games.push_back(spiel);
+        const bool ok = below(5) > 0;
+        QTest::keyClick(dialog, ok ? Qt::Key_Return : Qt::Key_Escape);
+        if (ok)
+            correction ? void(model.games.back() = spiel) : model.games.push_back(spiel);
     }
 
     void answerNames(QWidget *dialog)
@@ -127,11 +117,13 @@ class ZufallsabendTest : public QObject {
             next.names[size_t(k)] = name.isEmpty() ? StandardName(k + 1) : name.toStdString();
             next.carry[size_t(k)] = ZahlAusText(carry.toStdString());
         }
-        switch (below(3)) {
-        case 0: QTest::mouseClick(dialog->findChild<QPushButton *>(u"Abbruch_Name"_qs), Qt::LeftButton); break;
-        case 1: dialog->close(); break;
-        default: QTest::mouseClick(dialog->findChild<QPushButton *>(u"OK_Name"_qs), Qt::LeftButton); model = next;
-        }
+        const int way = below(3); // Abbruch, the close box, OK
+        if (way == 1)
+            dialog->close();
+        else
+            QTest::mouseClick(dialog->findChild<QPushButton *>(way ? u"OK_Name"_qs : u"Abbruch_Name"_qs), Qt::LeftButton);
+        if (way == 2)
+            model = next;
     }
 
     void act(Spielstand &w)
@@ -159,24 +151,18 @@ class ZufallsabendTest : public QObject {
             if (n > 0) {
                 ++model.beeps;
                 expect([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); });
-                if (ok) {
-                    model.games.clear();
-                    model.carry = {};
-                }
+                if (ok)
+                    model.games.clear(), model.carry = {};
             }
             command(w, w.Neustart_Button, Qt::Key_N, "AblageNeu");
         } else if (choice < 280) {
             const int which = below(3);
             log << QStringList{u"größer"_qs, u"Standard"_qs, u"kleiner"_qs}[which];
             QTest::mouseClick(QList{w.PushButton1, w.PushButton2, w.PushButton6}[which], Qt::LeftButton);
-            if (which == 0)
-                ++model.size;
-            else if (which == 1)
-                model.size = 12;
-            else if (model.size > 1)
-                --model.size;
-            else
+            if (which == 2 && model.size == 1)
                 ++model.beeps;
+            else
+                model.size = which == 0 ? model.size + 1 : which == 1 ? 12 : model.size - 1;
         } else if (choice < 285) {
             log << u"Drucken"_qs; // the dialog cancels: nothing may change
             command(w, nullptr, Qt::Key_P, "AblageDrucken");
@@ -185,10 +171,7 @@ class ZufallsabendTest : public QObject {
             command(w, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
             QWidget *about = w.findChild<QWidget *>(u"UeberTafelkasse"_qs);
             QVERIFY(about && about->isVisible());
-            if (below(2))
-                QTest::mouseClick(about, Qt::LeftButton);
-            else
-                about->close();
+            below(2) ? QTest::mouseClick(about, Qt::LeftButton) : void(about->close());
         }
         QTest::qWait(0);
     }
@@ -219,17 +202,15 @@ class ZufallsabendTest : public QObject {
             if (sum != 0)
                 return u"the turnovers of game %1 do not add up to 0"_qs.arg(i);
         }
-        const QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
-                                  w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
-        const QList<bool> expected{n == 0, n < 99, n > 0, n > 0};
-        if (enabled != expected)
-            return u"buttons at %1 games"_qs.arg(n);
-        QList<bool> items;
+        // Names, new game, correction, restart: as buttons, then as menu items.
+        QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
+                            w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
         for (const char *name : {"ErgebnisseNamenderSpieler", "ErgebnisseErgebnisseeingeben",
                                  "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
-            items << w.findChild<QAction *>(QLatin1String(name))->isEnabled();
-        if (items != expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
-            return u"menu items at %1 games"_qs.arg(n);
+            enabled << w.findChild<QAction *>(QLatin1String(name))->isEnabled();
+        const QList<bool> expected{n == 0, n < 99, n > 0, n > 0};
+        if (enabled != expected + expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
+            return u"buttons or menu items at %1 games"_qs.arg(n);
         if (beeps != model.beeps)
             return u"%1 beeps, expected %2"_qs.arg(beeps).arg(model.beeps);
         if (w.Anzeige->font().pointSizeF() != model.size)
@@ -260,9 +241,7 @@ private Q_SLOTS:
         int mostGames = 0;
         for (int i = 0; i < actions; ++i) {
             act(window);
-            QString problem = disagreement(window, beeps.beeps);
-            if (!answered)
-                problem = u"the dialog did not come up"_qs;
+            const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_qs;
             mostGames = std::max(mostGames, int(model.games.size()));
             if (!problem.isEmpty()) {
                 const QString tail = QStringList(log.mid(std::max<qsizetype>(0, log.size() - 40))).join(u", "_qs);
