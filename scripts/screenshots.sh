@@ -20,14 +20,7 @@ mkdir -p "$out"
 pid=$!
 trap 'kill $pid 2>/dev/null || true' EXIT
 
-window() { timeout 20 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
-keys() { # title, xdotool key arguments...
-    local w
-    w=$(window "$1")
-    shift
-    xdotool windowfocus --sync "$w" key --delay 30 "$@"
-    sleep 0.3
-}
+source tests/app/drive.sh
 # A game: the four scores, then Mah Jongg and East counted from 1; the places are the
 # dialog's own, from its upper left corner.
 game() {

@@ -23,15 +23,7 @@ strace -f -qq -o "$work/trace" \
     "$program" &
 pid=$!
 
-window() { timeout 20 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
-# Types into the window of that title, once it is there and has the keyboard.
-keys() { # title, xdotool key arguments...
-    local w
-    w=$(window "$1")
-    shift
-    xdotool windowfocus --sync "$w" key --delay 30 "$@"
-    sleep 0.3
-}
+source "$(dirname "$0")/drive.sh"
 
 main=$(window '^Tafelkasse Version x vom 16\.11\.2019$')
 [ -n "$main" ] || { echo "no main window appeared"; exit 1; }
