@@ -14,8 +14,8 @@ struct DateTime {
     // The current moment from the installed clock.
     static DateTime Now();
 
-    // Medium date and medium time in the user's locale and time zone,
-    // in German for example "12.03.2021, 19:30:00".
+    // Date and time of day in the user's time zone, in the form of the installed date
+    // service: in German for example "12.03.2021, 19:30:00".
     std::string ToString() const;
 
     friend bool operator==(const DateTime &, const DateTime &) = default;

@@ -5,7 +5,10 @@
 #include "QtText.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QFontDatabase>
+#include <QLocale>
+#include <QRegularExpression>
 #include <QMessageBox>
 
 namespace platform {
@@ -41,11 +44,26 @@ std::string QtFonts::at(int index)
     return index >= 0 && index < m_families.size() ? utf8(m_families.at(index)) : std::string();
 }
 
+std::string QtDateFormat::format(DateTime moment)
+{
+    const QLocale locale; // the user's, unless the program sets another
+    // The short date, but with a four-digit year; the long time, but without the zone.
+    static const QRegularExpression jahr(u"y+"_qs), zone(u"\\s*\\bt+\\b\\s*"_qs);
+    QString datum = locale.dateFormat(QLocale::ShortFormat);
+    if (!datum.contains(u"yyyy"_qs))
+        datum.replace(jahr, u"yyyy"_qs);
+    QString zeit = locale.timeFormat(QLocale::LongFormat);
+    zeit.remove(zone);
+    const QDateTime wann = QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch);
+    return utf8(locale.toString(wann, datum + u", "_qs + zeit.trimmed()));
+}
+
 QtServices::QtServices()
 {
     install(&m_beep);
     install(&m_messages);
     install(&m_fonts);
+    install(&m_dates);
 }
 
 QtServices::~QtServices()
@@ -53,6 +71,7 @@ QtServices::~QtServices()
     install(static_cast<BeepService *>(nullptr));
     install(static_cast<MessageService *>(nullptr));
     install(static_cast<FontService *>(nullptr));
+    install(static_cast<DateFormatService *>(nullptr));
 }
 
 QString fontFamily(std::string_view name)

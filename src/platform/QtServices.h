@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The desktop's side of the platform services: the beep of the desktop, a message box over
-// the active window, and the fonts that Qt's font database knows.
+// the active window, the fonts that Qt's font database knows, and the locale's dates.
 #pragma once
 
 #include "System.h"
@@ -34,6 +34,14 @@ private:
     bool m_loaded = false;
 };
 
+// Date and time of day as the user's locale writes them, with the year in full and the
+// seconds: in German "12.03.2021, 19:30:00". Qt's own locale tables serve, which the
+// program has loaded anyway.
+class QtDateFormat final : public DateFormatService {
+public:
+    std::string format(DateTime moment) override;
+};
+
 // All of the above, installed for as long as the object lives.
 class QtServices {
 public:
@@ -46,6 +54,7 @@ private:
     QtBeep m_beep;
     QtMessageBox m_messages;
     QtFonts m_fonts;
+    QtDateFormat m_dates;
 };
 
 } // namespace platform

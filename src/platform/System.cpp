@@ -3,6 +3,7 @@
 #include "System.h"
 
 #include <chrono>
+#include <ctime>
 
 namespace {
 
@@ -31,15 +32,33 @@ public:
     }
 };
 
+class NumericDate final : public platform::DateFormatService {
+public:
+    std::string format(DateTime moment) override
+    {
+        // Floor division, so that moments before 1970 still fall in the right second.
+        std::time_t seconds = static_cast<std::time_t>(moment.millisecondsSinceEpoch / 1000);
+        if (moment.millisecondsSinceEpoch % 1000 < 0)
+            --seconds;
+        std::tm local{};
+        char text[64];
+        if (!localtime_r(&seconds, &local) || !std::strftime(text, sizeof text, "%d.%m.%Y, %H:%M:%S", &local))
+            return {};
+        return text;
+    }
+};
+
 QuietBeep quietBeep;
 QuietMessages quietMessages;
 NoFonts noFonts;
 SystemClock systemClock;
+NumericDate numericDate;
 
 platform::BeepService *beepService = &quietBeep;
 platform::MessageService *messageService = &quietMessages;
 platform::FontService *fontService = &noFonts;
 platform::ClockService *clockService = &systemClock;
+platform::DateFormatService *dateFormatService = &numericDate;
 
 } // namespace
 
@@ -63,6 +82,16 @@ void install(FontService *service)
 void install(ClockService *service)
 {
     clockService = service ? service : &systemClock;
+}
+
+void install(DateFormatService *service)
+{
+    dateFormatService = service ? service : &numericDate;
+}
+
+std::string FormatDateTime(DateTime moment)
+{
+    return dateFormatService->format(moment);
 }
 
 } // namespace platform

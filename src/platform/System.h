@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The few things the evening asks of the machine it runs on: a beep, a message to the user,
-// the list of installed fonts and the clock. Each is a small service behind an interface;
+// the list of installed fonts, the clock and how a date is written. Each is a small service behind an interface;
 // main() installs the desktop's implementations, a test installs doubles it can watch.
 // Until something is installed the services stay quiet: no sound, no message, no fonts,
 // and the system clock.
@@ -40,12 +40,24 @@ public:
     virtual DateTime now() = 0;
 };
 
+// How a moment is written for the user. The default writes it as German does,
+// "12.03.2021, 19:30:00", in the local time zone; the desktop's follows the user's locale.
+class DateFormatService {
+public:
+    virtual ~DateFormatService() = default;
+    virtual std::string format(DateTime moment) = 0;
+};
+
 // Each installs the service for the rest of the run, or until the next install; nullptr
 // puts back the quiet default. The caller keeps the object alive while it is installed.
 void install(BeepService *service);
 void install(MessageService *service);
 void install(FontService *service);
 void install(ClockService *service);
+void install(DateFormatService *service);
+
+// The moment as the installed date service writes it.
+std::string FormatDateTime(DateTime moment);
 
 } // namespace platform
 
