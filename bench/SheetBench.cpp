@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the sheet costs on the main window: the refresh after a game (buttons, the document
+// from the ledger, writing it into Anzeige and laying it out) at 0 to 99 games, the same
+// sheet written the word-for-word way as a yardstick, and printing a full evening to PDF.
+// Every benchmark first checks that what it times really produced the sheet of the ledger.
+#include "LiteralWriter.h"
+
+#include "ledger/Eingabe.h"
+#include "platform/QtServices.h"
+#include "platform/QtText.h"
+#include "platform/System.h"
+#include "view/Blatt.h"
+#include "view/Drucken.h"
+#include "windows/Spielstand.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+// The evening starts on 12 March 2021 at 19:30 in every run, so the head is always as long.
+class FixedClock final : public platform::ClockService {
+public:
+    FixedClock() { platform::install(this); }
+    ~FixedClock() override { platform::install(static_cast<platform::ClockService *>(nullptr)); }
+    DateTime now() override { return {1615573800000}; }
+};
+
+Spielstand *fenster = nullptr;
+
+// A fresh evening with n games, each entered as the results dialog's OK enters it; winner
+// and East go round the table so that every player line style turns up.
+void spieleEin(int n)
+{
+    NeustartDaten(Modul1);
+    for (int i = 0; i < n; ++i) {
+        const std::string basis = std::to_string(10 * (i % 7 + 1));
+        Ergebnisse_OK(Modul1, {{basis, "20", std::to_string(4 * (i % 5)), "40"}, i % 4 + 1, (i / 4 + i) % 4 + 1});
+    }
+}
+
+// Lays the whole sheet out now: the area otherwise fills in the layout of its paragraphs
+// only when it paints them.
+void layoutErzwingen(QTextEdit &anzeige)
+{
+    benchmark::DoNotOptimize(anzeige.document()->documentLayout()->documentSize());
+}
+
+// The sheet as a reader sees it: runs of text with bold, italic and the font family.
+struct Lauf {
+    QString text;
+    bool fett;
+    bool kursiv;
+    QStringList familien;
+    friend bool operator==(const Lauf &, const Lauf &) = default;
+};
+
+QList<Lauf> laeufe(const QTextDocument &dokument)
+{
+    QList<Lauf> ergebnis;
+    auto anhaengen = [&ergebnis](const QString &text, bool fett, bool kursiv, const QStringList &familien) {
+        if (!ergebnis.isEmpty() && ergebnis.last().fett == fett && ergebnis.last().kursiv == kursiv
+            && ergebnis.last().familien == familien)
+            ergebnis.last().text += text;
+        else
+            ergebnis.append({text, fett, kursiv, familien});
+    };
+    for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            anhaengen(it.fragment().text(), format.fontWeight() >= QFont::Bold, format.fontItalic(),
+                      format.fontFamilies().toStringList());
+        }
+        if (block.next().isValid())
+            ergebnis.last().text += QChar(CR);
+    }
+    return ergebnis;
+}
+
+// One letter per character for its style (a plain, b bold, c italic, d both); line ends stay.
+void stileAnhaengen(QString &stile, const QString &text, bool fett, bool kursiv)
+{
+    for (QChar c : text)
+        stile += c == QChar(CR) ? c : QChar(u'a' + fett + 2 * kursiv);
+}
+
+// Empty when the document reads as the pieces: the same text with the same bold and italic
+// at every character.
+QString abweichung(const QTextDocument &dokument, const Blatt &blatt)
+{
+    QString erwartet;
+    QString gelesen;
+    for (const Stueck &stueck : blatt.Stuecke)
+        stileAnhaengen(erwartet, qs(stueck.Text), stueck.Fett, stueck.Kursiv);
+    for (const Lauf &lauf : laeufe(dokument))
+        stileAnhaengen(gelesen, lauf.text, lauf.fett, lauf.kursiv);
+    if (dokument.toPlainText().replace(u'\n', QChar(CR)) != qs(Volltext(blatt.Stuecke)))
+        return u"the text differs from the ledger's sheet"_qs;
+    if (gelesen != erwartet) {
+        qsizetype i = 0;
+        while (i < gelesen.size() && i < erwartet.size() && gelesen[i] == erwartet[i])
+            ++i;
+        return u"the bold and italic runs differ from the ledger's sheet from character %1 on"_qs.arg(i);
+    }
+    return {};
+}
+
+// Every paragraph has its lines: the layout was really done, not left for the next paint.
+bool ganzGelayoutet(const QTextDocument &dokument)
+{
+    for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
+        if (!block.layout() || block.layout()->lineCount() == 0)
+            return false;
+    }
+    return true;
+}
+
+Blatt blattDesAbends()
+{
+    return Dokument(Modul1, fenster->Zeilen(), BlattSchrift(), Modul1.Tagesdatum->ToString());
+}
+
+// Between two refreshes the window paints, as it would on screen; the paint is not timed.
+void zwischendurchMalen(benchmark::State &state)
+{
+    state.PauseTiming();
+    QCoreApplication::processEvents();
+    state.ResumeTiming();
+}
+
+void BM_Refresh(benchmark::State &state)
+{
+    const int spiele = static_cast<int>(state.range(0));
+    spieleEin(spiele);
+    QTextEdit &anzeige = *fenster->Anzeige;
+    anzeige.clear();
+    fenster->Event_Activated();
+    layoutErzwingen(anzeige);
+    if (const QString fehler = abweichung(*anzeige.document(), blattDesAbends()); !fehler.isEmpty()) {
+        state.SkipWithError(fehler.toStdString().c_str());
+        return;
+    }
+    if (!ganzGelayoutet(*anzeige.document())) {
+        state.SkipWithError("the sheet was not laid out");
+        return;
+    }
+    for (auto _ : state) {
+        fenster->Event_Activated();
+        layoutErzwingen(anzeige);
+        zwischendurchMalen(state);
+    }
+    state.counters["games"] = spiele;
+    state.counters["lines"] = anzeige.document()->blockCount();
+}
+
+// The yardstick: the same sheet from the same ledger into the same area, written the
+// word-for-word way.
+void BM_RefreshLiteral(benchmark::State &state)
+{
+    const int spiele = static_cast<int>(state.range(0));
+    spieleEin(spiele);
+    QTextEdit &anzeige = *fenster->Anzeige;
+    anzeige.clear();
+    fenster->Event_Activated();
+    const QList<Lauf> unsere = laeufe(*anzeige.document());
+    writeSheetLiterally(anzeige, blattDesAbends());
+    layoutErzwingen(anzeige);
+    if (const QString fehler = abweichung(*anzeige.document(), blattDesAbends()); !fehler.isEmpty()) {
+        state.SkipWithError(("word-for-word writing: " + fehler.toStdString()).c_str());
+        return;
+    }
+    if (laeufe(*anzeige.document()) != unsere) {
+        state.SkipWithError("word-for-word writing gives other runs or fonts than the refresh");
+        return;
+    }
+    for (auto _ : state) {
+        writeSheetLiterally(anzeige, blattDesAbends());
+        layoutErzwingen(anzeige);
+        zwischendurchMalen(state);
+    }
+    state.counters["games"] = spiele;
+    state.counters["lines"] = anzeige.document()->blockCount();
+}
+
+// Number of pages in a PDF that Qt wrote: one page object each.
+int seitenImPdf(const QString &pfad)
+{
+    QFile datei(pfad);
+    if (!datei.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray inhalt = datei.readAll();
+    return static_cast<int>(inhalt.count("/Type /Page\n") + inhalt.count("/Type /Page\r") + inhalt.count("/Type /Page/")
+                            + inhalt.count("/Type /Page>"));
+}
+
+void BM_PrintPdf(benchmark::State &state)
+{
+    const int spiele = static_cast<int>(state.range(0));
+    spieleEin(spiele);
+    fenster->Event_Activated();
+    const QTemporaryDir ordner;
+    const QString pfad = ordner.filePath(u"blatt.pdf"_qs);
+    int seiten = 0;
+    for (auto _ : state) {
+        {
+            // As the print command makes its printer; the PDF is complete when it goes.
+            QPrinter printer(QPrinter::HighResolution);
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(pfad);
+            DruckeBlatt(*fenster->Anzeige->document(), printer);
+        }
+        state.PauseTiming();
+        seiten = seitenImPdf(pfad);
+        QFile::remove(pfad);
+        state.ResumeTiming();
+        if (seiten == 0) {
+            state.SkipWithError("no PDF page was written");
+            return;
+        }
+    }
+    state.counters["games"] = spiele;
+    state.counters["pages"] = seiten;
+}
+
+BENCHMARK(BM_Refresh)->Arg(0)->Arg(1)->Arg(10)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(BM_RefreshLiteral)->Arg(0)->Arg(1)->Arg(10)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(BM_PrintPdf)->Arg(99)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(21);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    // The sheet is measured without a screen; the platform can still be chosen from outside.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    platform::QtServices dienste;
+    FixedClock uhr;
+    Spielstand hauptfenster;
+    fenster = &hauptfenster;
+    hauptfenster.show();
+    QCoreApplication::processEvents();
+
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
