@@ -9,12 +9,21 @@
 #include "windows/Spielstand.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"Tafelkasse"_qs);
     QApplication::setApplicationVersion(u"1.0.0"_qs);
+    // The program speaks German whatever the desktop's language, so Qt's own texts (the print
+    // dialog, the sheet's context menu) do too, where Qt's translations are installed.
+    QTranslator qtTexte;
+    if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_qs, u"_"_qs,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&qtTexte);
     platform::QtServices dienste;
     platform::QtPrintDialog druckdialog;
     platform::install(&druckdialog);
