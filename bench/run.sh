@@ -21,18 +21,7 @@ rounds=15
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libbenchmark-dev xvfb python3 libx11-6)
 
-install_missing() {
-    local missing=()
-    for p in "$@"; do
-        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
-    done
-    [ ${#missing[@]} -eq 0 ] && return 0
-    echo "Installing: ${missing[*]}"
-    local sudo=()
-    [ "$(id -u)" -ne 0 ] && sudo=(sudo)
-    "${sudo[@]}" apt-get update -qq
-    DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
-}
+source "$top/scripts/install-missing.sh"
 
 load() { cut -d' ' -f1-3 /proc/loadavg; }
 

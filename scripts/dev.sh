@@ -15,18 +15,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev)
 packages_test=(xvfb xauth xdotool imagemagick poppler-utils fonts-dejavu-core python3 strace desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev)
 
-install_missing() {
-    local missing=()
-    for p in "$@"; do
-        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
-    done
-    [ ${#missing[@]} -eq 0 ] && return 0
-    echo "Installing: ${missing[*]}"
-    local sudo=()
-    [ "$(id -u)" -ne 0 ] && sudo=(sudo)
-    "${sudo[@]}" apt-get update -qq
-    DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
-}
+source "$top/scripts/install-missing.sh"
 
 configure_and_build() { # dir, extra cmake args...
     local dir=$1
