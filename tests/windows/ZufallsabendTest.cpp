@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Thousands of random actions at the table, through buttons, shortcuts and menu items, with
-// any text in any field. A model of the evening follows what the user meant; after every
-// action the ledger, the enabled controls and the sheet must agree with it.
-// TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS sets its length (5000).
+// Thousands of random actions at the table, by button, shortcut and menu item, with any text in
+// any field. A model follows what the user meant; after every action the ledger, the enabled
+// controls and the sheet must agree with it. TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS
+// sets its length (5000).
 #include "Doubles.h"
 #include "Modal.h"
 #include "PrintDoubles.h"
@@ -21,43 +21,31 @@
 
 #include <random>
 
-namespace {
-
-struct Spiel {
-    int winner, east; // 0 to 3, as chosen in the dialog
-    std::array<std::int64_t, 4> scores;
-};
-
-// What the user has done to the evening, kept apart from the program's ledger.
-struct Modell {
-    std::array<std::string, 4> names{StandardName(1), StandardName(2), StandardName(3), StandardName(4)};
-    std::array<std::int64_t, 4> carry{};
-    std::vector<Spiel> games;
-    double size = 12;
-    int beeps = 0;
-};
-
-} // namespace
-
 class ZufallsabendTest : public QObject {
     Q_OBJECT
 
+    struct Spiel {
+        int winner, east; // 0 to 3, as chosen in the dialog
+        std::array<std::int64_t, 4> scores;
+    };
+    struct Modell {
+        std::array<std::string, 4> names{StandardName(1), StandardName(2), StandardName(3), StandardName(4)};
+        std::array<std::int64_t, 4> carry{};
+        std::vector<Spiel> games;
+        double size = 12;
+        int beeps = 0;
+    } model;
     std::mt19937_64 rng;
-    Modell model;
     QStringList log;
-    bool answered = true; // whether the dialog the last action expected came up
+    bool answered = true; // whether the dialog that the last action expected came up
 
-    // Answers the dialog that the next command must open.
+    int below(int n) { return int(rng() % unsigned(n)); }
+    static void type(QLineEdit *field, const QString &text) { field->selectAll(), field->insert(text); }
     void expect(std::function<void(QWidget *)> answer)
     {
         answered = false;
-        whenModal([this, answer](QWidget *dialog) {
-            answered = true;
-            answer(dialog);
-        });
+        whenModal([this, answer](QWidget *dialog) { answered = true, answer(dialog); });
     }
-
-    int below(int n) { return int(rng() % unsigned(n)); }
 
     QString randomText(bool name)
     {
@@ -73,17 +61,16 @@ class ZufallsabendTest : public QObject {
         }
     }
 
-    static void type(QLineEdit *field, const QString &text) { field->selectAll(), field->insert(text); }
-
-    // One of the three ways to a command: its button, its shortcut, its menu item.
-    void command(Spielstand &w, QPushButton *button, Qt::Key key, const char *item)
+    // One of the ways to a command: its button, its menu item, its shortcut.
+    void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item)
     {
         const int way = button ? below(key ? 3 : 2) : 1 + below(2);
-        log.last() += QStringList{u" (button)"_qs, u" (menu)"_qs, u" (shortcut)"_qs}[way];
-        switch (way) {
-        case 0: QTest::mouseClick(button, Qt::LeftButton); break;
-        case 1: w.findChild<QAction *>(QLatin1String(item))->trigger(); break;
-        default:
+        log << what + QStringList{u" (button)"_qs, u" (menu)"_qs, u" (shortcut)"_qs}[way];
+        if (way == 0) {
+            QTest::mouseClick(button, Qt::LeftButton);
+        } else if (way == 1) {
+            w.findChild<QAction *>(QLatin1String(item))->trigger();
+        } else {
             w.activateWindow();
             QTRY_VERIFY(QApplication::activeWindow() == &w);
             QTest::keyClick(&w, key, Qt::ControlModifier);
@@ -121,7 +108,7 @@ class ZufallsabendTest : public QObject {
         if (way == 1)
             dialog->close();
         else
-            QTest::mouseClick(dialog->findChild<QPushButton *>(way ? u"OK_Name"_qs : u"Abbruch_Name"_qs), Qt::LeftButton);
+            QTest::mouseClick(child<QPushButton>(dialog, way ? "OK_Name" : "Abbruch_Name"), Qt::LeftButton);
         if (way == 2)
             model = next;
     }
@@ -131,32 +118,28 @@ class ZufallsabendTest : public QObject {
         const auto n = int(model.games.size());
         const int choice = below(300);
         if (choice < 150) {
-            log << u"Ergebnisse"_qs;
             if (n < 99)
                 expect([this](QWidget *d) { answerGame(d, "Ergebnis", false); });
-            command(w, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
+            command(w, u"Ergebnisse"_qs, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
         } else if (choice < 190) {
-            log << u"Korrektur"_qs;
             if (n > 0)
                 expect([this](QWidget *d) { answerGame(d, "Korrektur", true); });
-            command(w, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
+            command(w, u"Korrektur"_qs, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
         } else if (choice < 215) {
-            log << u"Namen"_qs;
             if (n == 0)
                 expect([this](QWidget *d) { answerNames(d); });
-            command(w, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
+            command(w, u"Namen"_qs, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
         } else if (choice < 218) {
             const bool ok = below(2);
-            log << (ok ? u"Neustart OK"_qs : u"Neustart Abbruch"_qs);
             if (n > 0) {
                 ++model.beeps;
                 expect([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); });
                 if (ok)
                     model.games.clear(), model.carry = {};
             }
-            command(w, w.Neustart_Button, Qt::Key_N, "AblageNeu");
+            command(w, ok ? u"Neustart OK"_qs : u"Neustart Abbruch"_qs, w.Neustart_Button, Qt::Key_N, "AblageNeu");
         } else if (choice < 280) {
-            const int which = below(3);
+            const int which = below(3); // größer, Standard, kleiner
             log << QStringList{u"größer"_qs, u"Standard"_qs, u"kleiner"_qs}[which];
             QTest::mouseClick(QList{w.PushButton1, w.PushButton2, w.PushButton6}[which], Qt::LeftButton);
             if (which == 2 && model.size == 1)
@@ -164,11 +147,9 @@ class ZufallsabendTest : public QObject {
             else
                 model.size = which == 0 ? model.size + 1 : which == 1 ? 12 : model.size - 1;
         } else if (choice < 285) {
-            log << u"Drucken"_qs; // the dialog cancels: nothing may change
-            command(w, nullptr, Qt::Key_P, "AblageDrucken");
+            command(w, u"Drucken"_qs, nullptr, Qt::Key_P, "AblageDrucken"); // cancelled: nothing changes
         } else {
-            log << u"Über"_qs;
-            command(w, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
+            command(w, u"Über"_qs, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
             QWidget *about = w.findChild<QWidget *>(u"UeberTafelkasse"_qs);
             QVERIFY(about && about->isVisible());
             below(2) ? QTest::mouseClick(about, Qt::LeftButton) : void(about->close());
@@ -186,21 +167,15 @@ class ZufallsabendTest : public QObject {
         for (int k = 1; k <= 4; ++k) {
             if (a.Spieler(k) != model.names[size_t(k - 1)] || a.Stand(k)[0] != model.carry[size_t(k - 1)])
                 return u"name or carry-over of player %1"_qs.arg(k);
-        }
-        for (std::int64_t i = 1; i <= n; ++i) {
-            const Spiel &s = model.games[size_t(i - 1)];
-            if (a.Mahjongg[size_t(i)] != model.names[size_t(s.winner)] || a.Osten[size_t(i)] != model.names[size_t(s.east)])
-                return u"Mah Jongg or East of game %1"_qs.arg(i);
-            std::uint64_t sum = 0;
-            for (int k = 1; k <= 4; ++k) {
-                const auto u = std::uint64_t(a.Umsatz(k)[size_t(i)]);
-                sum += u;
-                if (a.Ergebnis(k)[size_t(i)] != s.scores[size_t(k - 1)]
-                    || std::uint64_t(a.Stand(k)[size_t(i)]) != std::uint64_t(a.Stand(k)[size_t(i - 1)]) + u)
-                    return u"score or balance of player %1 in game %2"_qs.arg(k).arg(i);
+            for (std::int64_t i = 1; i <= n; ++i) {
+                const Spiel &s = model.games[size_t(i - 1)];
+                const auto r = size_t(i);
+                const auto u = [&](int p) { return std::uint64_t(a.Umsatz(p)[r]); };
+                if (a.Mahjongg[r] != model.names[size_t(s.winner)] || a.Osten[r] != model.names[size_t(s.east)]
+                    || a.Ergebnis(k)[r] != s.scores[size_t(k - 1)] || u(1) + u(2) + u(3) + u(4) != 0
+                    || std::uint64_t(a.Stand(k)[r]) != std::uint64_t(a.Stand(k)[r - 1]) + u(k))
+                    return u"game %1 of player %2: names, score, balance or the turnovers' sum of 0"_qs.arg(i).arg(k);
             }
-            if (sum != 0)
-                return u"the turnovers of game %1 do not add up to 0"_qs.arg(i);
         }
         // Names, new game, correction, restart: as buttons, then as menu items.
         QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
@@ -211,10 +186,9 @@ class ZufallsabendTest : public QObject {
         const QList<bool> expected{n == 0, n < 99, n > 0, n > 0};
         if (enabled != expected + expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
             return u"buttons or menu items at %1 games"_qs.arg(n);
-        if (beeps != model.beeps)
-            return u"%1 beeps, expected %2"_qs.arg(beeps).arg(model.beeps);
-        if (w.Anzeige->font().pointSizeF() != model.size)
-            return u"text size %1, expected %2"_qs.arg(w.Anzeige->font().pointSizeF()).arg(model.size);
+        if (beeps != model.beeps || w.Anzeige->font().pointSizeF() != model.size)
+            return u"%1 beeps at size %2, expected %3 at %4"_qs.arg(beeps).arg(w.Anzeige->font().pointSizeF())
+                .arg(model.beeps).arg(model.size);
         const Blatt blatt = Dokument(a, w.Zeilen(), BlattSchrift(), a.Tagesdatum->ToString());
         return SheetImage::firstDifference(SheetImage::fromDocument(*w.Anzeige->document()),
                                            SheetImage::fromPieces(blatt.Stuecke));
@@ -225,10 +199,10 @@ private Q_SLOTS:
     {
         const QByteArray seedText = qgetenv("TAFELKASSE_SEED");
         const std::uint64_t seed = seedText.isEmpty() ? std::random_device{}() : seedText.toULongLong();
-        const int actions = qEnvironmentVariableIsSet("TAFELKASSE_ACTIONS") ? qEnvironmentVariableIntValue("TAFELKASSE_ACTIONS") : 5000;
+        const int actions = qEnvironmentVariableIsSet("TAFELKASSE_ACTIONS")
+            ? qEnvironmentVariableIntValue("TAFELKASSE_ACTIONS") : 5000;
         qInfo("seed %llu (TAFELKASSE_SEED=%llu replays this run)", qulonglong(seed), qulonglong(seed));
         rng.seed(seed);
-
         FixedClock clock;
         ScopedBeepCounter beeps;
         ScopedFontList fonts({"Courier", "Palatino"});
@@ -244,12 +218,12 @@ private Q_SLOTS:
             const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_qs;
             mostGames = std::max(mostGames, int(model.games.size()));
             if (!problem.isEmpty()) {
-                const QString tail = QStringList(log.mid(std::max<qsizetype>(0, log.size() - 40))).join(u", "_qs);
-                QFAIL(qPrintable(u"seed %1, action %2: %3\nlast actions: %4"_qs.arg(seed).arg(i + 1).arg(problem, tail)));
+                const QString last = log.mid(std::max<qsizetype>(0, log.size() - 40)).join(u", "_qs);
+                QFAIL(qPrintable(u"seed %1, action %2: %3\nlast: %4"_qs.arg(seed).arg(i + 1).arg(problem, last)));
             }
         }
         QVERIFY2(printing.opened > 0, "never printed");
-        // The full ledger is where the guards matter; a run long enough reaches it.
+        // The full ledger is where the guards matter; a run this long reaches it.
         if (actions >= 5000)
             QVERIFY2(mostGames == 99, qPrintable(u"seed %1 never reached 99 games"_qs.arg(seed)));
     }
