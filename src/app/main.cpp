@@ -9,6 +9,7 @@
 #include "windows/Spielstand.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -18,6 +19,13 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"Tafelkasse"_qs);
     QApplication::setApplicationVersion(u"1.0.0"_qs);
+    // The desktop matches the window with the installed entry by its name, and shows the program's
+    // own picture on the window and in the task bar, whatever icon theme is installed.
+    QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_qs);
+    QIcon symbol;
+    for (const int groesse : {16, 32, 48, 64, 128, 256})
+        symbol.addFile(u":/symbol/tafelkasse-%1.png"_qs.arg(groesse), QSize(groesse, groesse));
+    QApplication::setWindowIcon(symbol);
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
     // dialog, the sheet's context menu) do too, where Qt's translations are installed.
     QTranslator qtTexte;

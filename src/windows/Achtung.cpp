@@ -22,8 +22,7 @@ class WarnSymbol : public QWidget {
 public:
     explicit WarnSymbol(QWidget *parent)
         : QWidget(parent)
-    {
-    }
+    { }
 
 protected:
     void paintEvent(QPaintEvent *) override { Canvas1_Paint(); }
@@ -70,10 +69,11 @@ void Achtung::Layout()
     StaticText1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
     setTabOrder(Abbruch, OK);
+    // Return confirms, unless the user has moved the focus onto Abbruch: a focused button answers
+    // Return itself. The dialog opens with the focus on OK.
     OK->setDefault(true);
-    // Return always confirms, even when the focus stands on Abbruch; Abbruch is pressed by
-    // Esc, by a click or by the space bar.
-    Abbruch->setAutoDefault(false);
+    // Without a title, a screen reader names the warning by its sentence.
+    setAccessibleName(StaticText1->text());
 
     connect(Abbruch, &QPushButton::clicked, this, &Achtung::Abbruch_Pressed);
     connect(OK, &QPushButton::clicked, this, &Achtung::OK_Pressed);

@@ -3,7 +3,8 @@
 //
 // The warning before a restart: one sentence, the desktop's warning icon, OK and Abbruch.
 // The answer goes into Modul1.DruckKnopf (1 for OK, 0 for Abbruch), and the main window
-// acts on it. Return confirms; Esc and every other way out count as Abbruch.
+// acts on it. Return confirms, or presses the button that has the focus; Esc and every other way
+// out count as Abbruch.
 #pragma once
 
 #include <QDialog>

@@ -10,9 +10,21 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace {
+
+// The player whose button is on: the first of players 1 to 3, else player 4.
+int gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
+{
+    for (int k = 0; k < 3; ++k) {
+        if (gruppe[k]->isChecked())
+            return k + 1;
+    }
+    return 4;
+}
 
 // Radio buttons stand inside their group box, whose own place is given in window coordinates.
 QRect innerhalb(QRect geometrie, QRect box)
@@ -63,22 +75,19 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     }
     OK->setObjectName(u"OK"_qs);
     OK->setGeometry(layout.ok);
+    // Return in a field means OK; on a focused button it presses that button.
     OK->setDefault(true);
     Cancel->setObjectName(u"Cancel"_qs);
     Cancel->setGeometry(layout.cancel);
-    Cancel->setAutoDefault(false);
     Label1->setObjectName(u"Label1"_qs);
     Label1->setGeometry(layout.label1);
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setWordWrap(true);
 
     // Tab order as the form reads: the two button groups, the scores from the top, OK, Abbruch.
-    setTabOrder(Mahjongg[0], Osten[0]);
-    setTabOrder(Osten[0], Felder[0]);
-    for (int k = 1; k < 4; ++k)
-        setTabOrder(Felder[k - 1], Felder[k]);
-    setTabOrder(Felder[3], OK);
-    setTabOrder(OK, Cancel);
+    const std::vector<QWidget *> reihe = Tabfolge();
+    for (std::size_t i = 1; i < reihe.size(); ++i)
+        setTabOrder(reihe[i - 1], reihe[i]);
     // The scores are what the user types first after a game.
     Felder[0]->setFocus();
 
@@ -96,27 +105,45 @@ void ErgebnisFormular::SpielerSetzen(const Abend &abend)
 
 void ErgebnisFormular::Benennen()
 {
-    // A screen reader announces a field by the player beside it; a radio button, whose text
-    // stands four times, tells the player in its description.
+    // A screen reader announces a field and a radio button, whose text stands four times, by the
+    // player beside it; the two groups by what they choose, as their columns do.
+    GroupBox1->setAccessibleName(u"Mah Jongg"_qs);
+    GroupBox2->setAccessibleName(u"Osten"_qs);
     for (int k = 0; k < 4; ++k) {
-        Felder[k]->setAccessibleName(Spieler[k]->text() + u" Ergebnis"_qs);
-        Mahjongg[k]->setAccessibleDescription(Spieler[k]->text());
-        Osten[k]->setAccessibleDescription(Spieler[k]->text());
+        const QString spieler = Spieler[k]->text() + u' ';
+        Felder[k]->setAccessibleName(spieler + u"Ergebnis"_qs);
+        Mahjongg[k]->setAccessibleName(spieler + Mahjongg[k]->text());
+        Osten[k]->setAccessibleName(spieler + Osten[k]->text());
     }
 }
 
-namespace {
-
-int gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
+std::vector<QWidget *> ErgebnisFormular::Tabfolge() const
 {
-    for (int k = 0; k < 3; ++k) {
-        if (gruppe[k]->isChecked())
-            return k + 1;
-    }
-    return 4;
+    std::vector<QWidget *> reihe(Mahjongg.begin(), Mahjongg.end());
+    reihe.insert(reihe.end(), Osten.begin(), Osten.end());
+    reihe.insert(reihe.end(), Felder.begin(), Felder.end());
+    reihe.insert(reihe.end(), {OK, Cancel});
+    return reihe;
 }
 
-} // namespace
+bool ErgebnisFormular::focusNextPrevChild(bool next)
+{
+    const std::vector<QWidget *> reihe = Tabfolge();
+    const auto hier = std::find(reihe.begin(), reihe.end(), focusWidget());
+    if (hier == reihe.end())
+        return QDialog::focusNextPrevChild(next);
+    const auto n = static_cast<std::ptrdiff_t>(reihe.size());
+    QWidget *ziel = reihe[static_cast<std::size_t>(((hier - reihe.begin()) + (next ? 1 : n - 1)) % n)];
+    // A group is entered at its checked button, from either side; inside it Tab goes on button by
+    // button, so that Tab and Space alone reach every player.
+    for (const auto &gruppe : {Mahjongg, Osten}) {
+        const auto drin = [&gruppe](QWidget *w) { return std::find(gruppe.begin(), gruppe.end(), w) != gruppe.end(); };
+        if (drin(ziel) && !drin(*hier))
+            ziel = gruppe[static_cast<std::size_t>(gewaehlt(gruppe) - 1)];
+    }
+    ziel->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
 
 ResultForm ErgebnisFormular::Formular() const
 {

@@ -11,6 +11,7 @@
 #include <QDialog>
 
 #include <array>
+#include <vector>
 
 class QGroupBox;
 class QLabel;
@@ -59,10 +60,15 @@ public:
 protected:
     ErgebnisFormular(const FormularLayout &layout, QWidget *parent);
 
+    bool focusNextPrevChild(bool next) override;
+
     virtual void OK_Pressed() = 0;
     void Cancel_Pressed();
 
 private:
     // The accessible names of the rows, after their labels.
     void Benennen();
+
+    // The controls in the order in which Tab visits them.
+    std::vector<QWidget *> Tabfolge() const;
 };

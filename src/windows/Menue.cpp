@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShortcut>
 #include <QTextCursor>
 #include <QTextEdit>
 
@@ -23,6 +24,9 @@ QAction *Eintrag(QMenu *menu, const char *name, const QString &text, const QKeyS
     // otherwise guess from the texts.
     eintrag->setMenuRole(QAction::NoRole);
     eintrag->setShortcut(shortcut);
+    // The bar serves the whole program: its shortcuts work in the about window too, which has no
+    // bar of its own. While a dialog is open they rest, as the main window does.
+    eintrag->setShortcutContext(Qt::ApplicationShortcut);
     menu->addAction(eintrag);
     return eintrag;
 }
@@ -46,9 +50,9 @@ void AmTextFokus(Feld amFeld, Flaeche anDerFlaeche)
 
 Menue::Menue(Spielstand &fenster)
     : QMenuBar(&fenster)
-    , UntitledMenu3(new QMenu(u"Ablage"_qs, this))
-    , UntitledMenu1(new QMenu(u"Bearbeiten"_qs, this))
-    , UntitledMenu0(new QMenu(u"Ergebnisse"_qs, this))
+    , UntitledMenu3(new QMenu(u"&Ablage"_qs, this))
+    , UntitledMenu1(new QMenu(u"&Bearbeiten"_qs, this))
+    , UntitledMenu0(new QMenu(u"&Ergebnisse"_qs, this))
     , UntitledMenu5(new QMenu(this))
     , m_fenster(fenster)
 {
@@ -59,6 +63,9 @@ Menue::Menue(Spielstand &fenster)
     Untitled3();
     AddMenuHandlers();
     Event_MenuSelected();
+    // F10 opens the first menu, as on the desktops here; Alt and a title's letter open that menu.
+    auto *f10 = new QShortcut(QKeySequence(Qt::Key_F10), &fenster);
+    connect(f10, &QShortcut::activated, this, [this] { setActiveAction(UntitledMenu3->menuAction()); });
 }
 
 void Menue::Untitled0()
@@ -92,8 +99,8 @@ void Menue::Untitled2()
     UntitledMenu0->setObjectName(u"UntitledMenu0"_qs);
     addMenu(UntitledMenu0);
     ErgebnisseNamenderSpieler = Eintrag(UntitledMenu0, "ErgebnisseNamenderSpieler", u"Namen der Spieler  "_qs);
-    ErgebnisseErgebnisseeingeben = Eintrag(UntitledMenu0, "ErgebnisseErgebnisseeingeben",
-                                           u"Ergebnisse eingeben "_qs, QKeySequence(Qt::CTRL | Qt::Key_E));
+    ErgebnisseErgebnisseeingeben = Eintrag(UntitledMenu0, "ErgebnisseErgebnisseeingeben", u"Ergebnisse eingeben "_qs,
+                                           QKeySequence(Qt::CTRL | Qt::Key_E));
     ErgebnisseKorrekturletztesSpiel = Eintrag(UntitledMenu0, "ErgebnisseKorrekturletztesSpiel",
                                               u"Korrektur letztes Spiel"_qs, QKeySequence(Qt::CTRL | Qt::Key_K));
     AppleTafelkasse = Eintrag(UntitledMenu0, "AppleTafelkasse", u"Tafelkasse "_qs, QKeySequence(Qt::CTRL | Qt::Key_I));
@@ -114,8 +121,7 @@ void Menue::AddMenuHandlers()
     connect(AblagePapierformat, &QAction::triggered, this, &Menue::AblagePapierformat_Action);
     connect(ErgebnisseNamenderSpieler, &QAction::triggered, this, &Menue::ErgebnisseNamenderSpieler_Action);
     connect(ErgebnisseErgebnisseeingeben, &QAction::triggered, this, &Menue::ErgebnisseErgebnisseeingeben_Action);
-    connect(ErgebnisseKorrekturletztesSpiel, &QAction::triggered, this,
-            &Menue::ErgebnisseKorrekturletztesSpiel_Action);
+    connect(ErgebnisseKorrekturletztesSpiel, &QAction::triggered, this, &Menue::ErgebnisseKorrekturletztesSpiel_Action);
     connect(AblageDrucken, &QAction::triggered, this, &Menue::AblageDrucken_Action);
     connect(FileQuit, &QAction::triggered, this, &Menue::FileQuit_Action);
 

@@ -81,17 +81,16 @@ void Namen::Layout()
         feld->setMaxLength(std::numeric_limits<int>::max());
 
     // A screen reader names each field by its row and its column.
-    const std::array namen{Name_1, Name_2, Name_3, Name_4}, uebertraege{Uebertrag_1, Uebertrag_2, Uebertrag_3,
-                                                                       Uebertrag_4};
+    const std::array namen{Name_1, Name_2, Name_3, Name_4},
+        uebertraege{Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4};
     const std::array zeilen{StaticText1, StaticText2, StaticText3, StaticText4};
     for (std::size_t k = 0; k < 4; ++k) {
         namen[k]->setAccessibleName(zeilen[k]->text() + u" Name"_qs);
         uebertraege[k]->setAccessibleName(zeilen[k]->text() + u" Übertrag"_qs);
     }
 
+    // Return in any field means OK; on a focused button it presses that button.
     OK_Name->setDefault(true);
-    // Return in any field means OK, also after the user has tabbed over Abbruch.
-    Abbruch_Name->setAutoDefault(false);
     Name_1->setFocus();
 
     connect(Abbruch_Name, &QPushButton::clicked, this, &Namen::Abbruch_Name_Pressed);

@@ -11,6 +11,7 @@
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
 #include "platform/Anker.h"
+#include "platform/Beschriftung.h"
 #include "platform/PrintDialog.h"
 #include "platform/QtText.h"
 #include "platform/System.h"
@@ -19,6 +20,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QLabel>
 #include <QPrinter>
 #include <QPushButton>
@@ -32,7 +34,10 @@ constexpr qreal LayoutSchriftgroesse = 12;
 } // namespace
 
 Spielstand::Spielstand(QWidget *parent)
-    : QMainWindow(parent)
+    // A close box and a minimize button, but none to maximize: the window grows by hand only.
+    : QMainWindow(parent,
+                  Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                      | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint)
     , Anzeige(new QTextEdit)
     , Ueber_Button(new QPushButton(u"Über…"_qs))
     , Namen_Button(new QPushButton(u"Namen der Spieler"_qs))
@@ -51,6 +56,8 @@ Spielstand::Spielstand(QWidget *parent)
 
 void Spielstand::Layout()
 {
+    // First, before the controls take their places: a screen reader may ask for them from then on.
+    BeschrifteKnoepfe(Label1, {PushButton6, PushButton2, PushButton1});
     setWindowTitle(u" Tafelkasse "_qs);
     setObjectName(u"Spielstand"_qs);
     // The menu bar stands above the content, which keeps its first size of 896 by 616.
@@ -96,6 +103,9 @@ void Spielstand::Layout()
     QFont fett = PushButton5->font();
     fett.setBold(true);
     PushButton5->setFont(fett);
+    // A button that has the keyboard focus answers Return as it answers Space.
+    for (QPushButton *knopf : findChildren<QPushButton *>())
+        knopf->setAutoDefault(true);
 
     // The sheet can be read, selected and copied, never edited; it has no undo of its own,
     // so an "Undo" can never take a game off the sheet.
@@ -108,6 +118,13 @@ void Spielstand::Layout()
     Anzeige->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Anzeige->setLineWrapMode(QTextEdit::WidgetWidth);
     Anzeige->setFont(platform::font("system", LayoutSchriftgroesse));
+    // Tab leaves the sheet, so that the keyboard can reach the buttons from it.
+    Anzeige->setTabChangesFocus(true);
+    // A selection shows only while the sheet has the focus.
+    QPalette farben = Anzeige->palette();
+    farben.setBrush(QPalette::Inactive, QPalette::Highlight, Qt::NoBrush);
+    farben.setBrush(QPalette::Inactive, QPalette::HighlightedText, farben.brush(QPalette::Inactive, QPalette::Text));
+    Anzeige->setPalette(farben);
 
     connect(Ueber_Button, &QPushButton::clicked, this, &Spielstand::Ueber_Button_Pressed);
     connect(Namen_Button, &QPushButton::clicked, this, &Spielstand::Namen_Button_Pressed);
@@ -235,6 +252,12 @@ void Spielstand::NamenEingeben()
 void Spielstand::Drucken()
 {
     QPrinter printer(QPrinter::HighResolution);
+    // What a printed file or a print queue calls the job: the program and the evening's day, in a
+    // form that serves as a file name anywhere.
+    const QDateTime beginn
+        = QDateTime::fromMSecsSinceEpoch(Modul1.Tagesdatum.value_or(DateTime{}).millisecondsSinceEpoch);
+    printer.setDocName(u"Tafelkasse "_qs + beginn.date().toString(Qt::ISODate));
+    printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
     if (OpenPrinterDialog(printer))
         DruckeBlatt(*Anzeige->document(), printer);
 }
