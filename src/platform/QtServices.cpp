@@ -8,10 +8,11 @@
 #include <QDateTime>
 #include <QFontDatabase>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QMessageBox>
+#include <QRegularExpression>
 
-namespace platform {
+namespace platform
+{
 
 void QtBeep::beep()
 {
@@ -26,10 +27,20 @@ void QtMessageBox::show(std::string_view text)
 
 void QtFonts::load()
 {
-    if (!m_loaded) {
-        m_families = QFontDatabase::families();
-        m_loaded = true;
+    if (m_loaded)
+        return;
+    // Qt lists a family that two foundries make once for each, "Courier [urw]" and
+    // "Courier [UKWN]", and takes such a name as the family before the bracket: the family is
+    // installed under its own name, whichever foundry makes it. QFontDatabase::hasFamily would
+    // also follow fontconfig's aliases, by which a stand-in answers for a missing family; the
+    // list holds only the families that are there.
+    for (const QString &eintrag : QFontDatabase::families()) {
+        const qsizetype klammer = eintrag.indexOf(u'[');
+        const QString familie = klammer > 0 && eintrag.endsWith(u']') ? eintrag.left(klammer).trimmed() : eintrag;
+        if (!m_families.contains(familie))
+            m_families.append(familie);
     }
+    m_loaded = true;
 }
 
 int QtFonts::count()
