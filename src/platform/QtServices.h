@@ -40,8 +40,8 @@ private:
 };
 
 // Date and time of day as the user's locale writes them, with the year in full and the
-// seconds: in German "12.03.2021, 19:30:00". Qt's own locale tables serve, which the
-// program has loaded anyway.
+// seconds but without the time zone: in German "12.03.2021, 19:30:00", in American English
+// "3/12/2021, 7:30:00 PM". Qt's own locale tables serve, which the program has loaded anyway.
 class QtDateFormat final : public DateFormatService
 {
 public:
