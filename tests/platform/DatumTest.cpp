@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // How the evening's date is written in the head of the sheet: plainly without a desktop, in
-// the user's locale with one, always with the full year and the seconds.
+// the user's locale with one, in every locale with the full year and the seconds.
 #include "Doubles.h"
 #include "platform/QtServices.h"
 
@@ -25,17 +25,10 @@ private Q_SLOTS:
         QCOMPARE(maerz.ToString(), "12.03.2021, 19:30:00");
         QLocale::setDefault(QLocale(u"en_US"_qs));
         QCOMPARE(maerz.ToString(), "3/12/2021, 7:30:00 PM");
-        QLocale::setDefault(QLocale(u"de_DE"_qs));
-        platform::install(static_cast<platform::DateFormatService *>(nullptr));
-    }
 
-    // Every locale that Qt knows writes the year in full and the seconds, in its own digits, and
-    // leaves neither empty brackets nor a letter of a format that Qt does not read: the letters left
-    // are the locale's own words, its AM/PM, its month and the quoted text of its formats.
-    void everyLocaleWritesTheMomentWhole()
-    {
-        platform::QtDateFormat desktop;
-        platform::install(&desktop);
+        // Every locale that Qt knows writes the year in full and the seconds, in its own digits, and
+        // leaves neither empty brackets nor a letter of a format that Qt does not read: the letters left
+        // are the locale's own words, its AM/PM, its month and the quoted text of its formats.
         const DateTime moment{FixedClock::Maerz2021 + 47000};
         static const QRegularExpression emptyBrackets(u"\\p{Ps}\\s*\\p{Pe}"_qs), quoted(u"'([^']+)'"_qs),
             latin(u"[A-Za-z]"_qs);
