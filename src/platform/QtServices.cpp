@@ -8,10 +8,11 @@
 #include <QDateTime>
 #include <QFontDatabase>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QMessageBox>
+#include <QRegularExpression>
 
-namespace platform {
+namespace platform
+{
 
 void QtBeep::beep()
 {
@@ -26,10 +27,20 @@ void QtMessageBox::show(std::string_view text)
 
 void QtFonts::load()
 {
-    if (!m_loaded) {
-        m_families = QFontDatabase::families();
-        m_loaded = true;
+    if (m_loaded)
+        return;
+    // Qt lists a family that two foundries make once for each, "Courier [urw]" and
+    // "Courier [UKWN]", and takes such a name as the family before the bracket: the family is
+    // installed under its own name, whichever foundry makes it. QFontDatabase::hasFamily would
+    // also follow fontconfig's aliases, by which a stand-in answers for a missing family; the
+    // list holds only the families that are there.
+    for (const QString &eintrag : QFontDatabase::families()) {
+        const qsizetype klammer = eintrag.indexOf(u'[');
+        const QString familie = klammer > 0 && eintrag.endsWith(u']') ? eintrag.left(klammer).trimmed() : eintrag;
+        if (!m_families.contains(familie))
+            m_families.append(familie);
     }
+    m_loaded = true;
 }
 
 int QtFonts::count()
@@ -44,18 +55,35 @@ std::string QtFonts::at(int index)
     return index >= 0 && index < m_families.size() ? utf8(m_families.at(index)) : std::string();
 }
 
+namespace
+{
+
+// A date or time format of Qt's locale data as the sheet writes it. The data comes from CLDR,
+// and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand
+// as a letter and the hour be read as a 24-hour one, so it becomes Qt's AM/PM. The zone goes,
+// with the brackets and blanks around it, and the year is written in full. Quoted text is the
+// locale's own and stays as it is.
+QString BlattMuster(const QString &cldr)
+{
+    static const QRegularExpression jahr(u"y+"_qs), tageszeit(u"[Bb]+"_qs), zone(u"t+"_qs),
+        leereKlammern(u"[(\\[]\\s*[)\\]]"_qs), blanks(u" {2,}"_qs), raender(u"^[\\s,]+|[\\s,]+$"_qs);
+    QStringList teile = cldr.split(u'\'');
+    for (qsizetype i = 0; i < teile.size(); i += 2) {
+        teile[i].replace(jahr, u"yyyy"_qs).replace(tageszeit, u"AP"_qs).remove(zone).remove(leereKlammern);
+        teile[i].replace(blanks, u" "_qs);
+    }
+    return teile.join(u'\'').remove(raender);
+}
+
+} // namespace
+
 std::string QtDateFormat::format(DateTime moment)
 {
     const QLocale locale; // the user's, unless the program sets another
-    // The short date, but with a four-digit year; the long time, but without the zone.
-    static const QRegularExpression jahr(u"y+"_qs), zone(u"\\s*\\bt+\\b\\s*"_qs);
-    QString datum = locale.dateFormat(QLocale::ShortFormat);
-    if (!datum.contains(u"yyyy"_qs))
-        datum.replace(jahr, u"yyyy"_qs);
-    QString zeit = locale.timeFormat(QLocale::LongFormat);
-    zeit.remove(zone);
-    const QDateTime wann = QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch);
-    return utf8(locale.toString(wann, datum + u", "_qs + zeit.trimmed()));
+    // The short date and the long time, which has the seconds.
+    const QString muster = BlattMuster(locale.dateFormat(QLocale::ShortFormat)) + u", "_qs
+        + BlattMuster(locale.timeFormat(QLocale::LongFormat));
+    return utf8(locale.toString(QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch), muster));
 }
 
 QtServices::QtServices()

@@ -10,7 +10,8 @@
 class QPrinter;
 class QTextDocument;
 
-namespace Druckseite {
+namespace Druckseite
+{
 inline constexpr int Breite = 540;
 inline constexpr int Hoehe = 648;
 inline constexpr int Randabzug = 48;
@@ -23,5 +24,7 @@ inline constexpr int Blockhoehe = Hoehe - Randabzug; // 600
 // Prints a copy of the sheet on `printer`, which the print dialog (or a test) has set up,
 // page by page: the styles and the sheet's font and size as on screen, the lines wrapped at
 // the block width whatever the window's width, and a page break only between two whole
-// lines. The sheet itself is not touched. Starts no page after the last one.
+// lines. The sheet itself is not touched. Starts no page after the last one. Of the pages
+// that this makes, it prints those of the printer's page range, in the printer's page order,
+// and as many copies as the printer asks for and does not make itself.
 void DruckeBlatt(const QTextDocument &blatt, QPrinter &printer);

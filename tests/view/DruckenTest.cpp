@@ -3,12 +3,14 @@
 //
 // The printout, printed into PDF files and read back with pdftotext: each word of the sheet on its
 // page, line and column, with the lines wrapped at the block width and the pages filled with whole
-// lines, the block standing at the page's corner, and the bold and italic cuts of the font.
+// lines, the block standing at the page's corner, and the bold and italic cuts of the font; and the
+// page range, copies and page order of the print dialog, as pages taken from the full printout.
 #include "view/Drucken.h"
 #include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
 #include "view/BlattSchreiben.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,45 +21,38 @@ using namespace Qt::StringLiterals;
 struct Word {
     double left, top, right;
     QString text;
+    friend bool operator==(const Word &, const Word &) = default;
 };
 
-class DruckenTest : public QObject {
+// What the user chose in the print dialog; a PDF file makes no copies of its own.
+struct Choice {
+    int from = 0, to = 0, copies = 1;
+    bool collate = true;
+    QPrinter::PageOrder order = QPrinter::FirstPageFirst;
+    friend bool operator==(const Choice &, const Choice &) = default;
+};
+Q_DECLARE_METATYPE(Choice)
+
+class DruckenTest : public QObject
+{
     Q_OBJECT
     QTemporaryDir dir;
 
-private Q_SLOTS:
-    void wordsStandWhereWholeLinesAndPagesPutThem_data()
+    // Prints the document into a PDF file as chosen, and reads each page's words back in the order
+    // in which they were drawn.
+    QList<QList<Word>> print(const QTextDocument &document, const QString &file, const Choice &choice)
     {
-        QTest::addColumn<int>("games");
-        QTest::addColumn<int>("size");
-        QTest::newRow("empty evening") << 0 << 10;
-        QTest::newRow("99 games") << 99 << 10;
-        QTest::newRow("large text") << 1 << 24;
-    }
-
-    // In a monospaced font whose four cuts are equally high, unlike Courier's, the letters and lines
-    // measured on paper give each word's place.
-    void wordsStandWhereWholeLinesAndPagesPutThem()
-    {
-        QFETCH(int, games);
-        QFETCH(int, size);
-        Abend abend;
-        Namen_OK(abend, {});
-        for (int i = 0; i < games; ++i)
-            Ergebnisse_OK(abend, {{"10", "20", "30", "40"}, i % 4 + 1, (i + 1) % 4 + 1});
-        // No font of its own: the sheet stands in the document's.
-        const Blatt blatt = Dokument(abend, StandardUeberschriften(), "", "12.03.2021, 19:30:00");
-        QTextDocument document;
-        document.setDefaultFont(QFont(u"DejaVu Sans Mono"_s, size));
-        SchreibeStuecke(document, blatt.Stuecke, blatt.Schrift);
-        const QString file = dir.filePath(u"blatt.pdf"_s);
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFileName(file);
+        printer.setFromTo(choice.from, choice.to);
+        printer.setCopyCount(choice.copies);
+        printer.setCollateCopies(choice.collate);
+        printer.setPageOrder(choice.order);
         DruckeBlatt(document, printer);
 
         static const QRegularExpression word(
             uR"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)"[^>]*>([^<]*)<)re"_s);
-        QList<QList<Word>> pages; // with -raw, each page's words in the order they were drawn
+        QList<QList<Word>> pages;
         for (const QString &page :
             popplerOutput(u"pdftotext"_s, {u"-bbox"_s, u"-raw"_s, file, u"-"_s}).split(u"<page "_s).mid(1)) {
             pages.append(QList<Word>());
@@ -67,13 +62,56 @@ private Q_SLOTS:
                     {m.captured(1).toDouble(), m.captured(2).toDouble(), m.captured(3).toDouble(), m.captured(4)});
             }
         }
-        QVERIFY(!pages.isEmpty() && pages[0].size() > 1);
+        return pages;
+    }
+
+private Q_SLOTS:
+    void wordsStandWhereWholeLinesAndPagesPutThem_data()
+    {
+        QTest::addColumn<int>("games");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<Choice>("choice");
+        QTest::addColumn<QList<int>>("pages"); // of the full printout, from 1, as they come out with the choice
+        QTest::newRow("empty evening") << 0 << 10 << Choice{} << QList<int>();
+        QTest::newRow("99 games") << 99 << 10 << Choice{} << QList<int>();
+        QTest::newRow("large text") << 1 << 24 << Choice{} << QList<int>();
+        // Twelve games make three pages.
+        QTest::newRow("pages 2 to 2") << 12 << 10 << Choice{.from = 2, .to = 2} << QList<int>{2};
+        QTest::newRow("pages 2 to 9, last first, 2 collated copies")
+            << 12 << 10 << Choice{.from = 2, .to = 9, .copies = 2, .order = QPrinter::LastPageFirst}
+            << QList<int>{3, 2, 3, 2};
+        QTest::newRow("3 copies, not collated")
+            << 12 << 10 << Choice{.copies = 3, .collate = false} << QList<int>{1, 1, 1, 2, 2, 2, 3, 3, 3};
+        QTest::newRow("pages 4 to 5 of 3") << 12 << 10 << Choice{.from = 4, .to = 5} << QList<int>();
+    }
+
+    // In a monospaced font whose four cuts are equally high, unlike Courier's, the letters and lines
+    // measured on paper give each word's place.
+    void wordsStandWhereWholeLinesAndPagesPutThem()
+    {
+        QFETCH(int, games);
+        QFETCH(int, size);
+        QFETCH(Choice, choice);
+        QFETCH(QList<int>, pages);
+        Abend abend;
+        Namen_OK(abend, {});
+        for (int i = 0; i < games; ++i)
+            Ergebnisse_OK(abend, {{"10", "20", "30", "40"}, i % 4 + 1, (i + 1) % 4 + 1});
+        // No font of its own: the sheet stands in the document's.
+        const Blatt blatt = Dokument(abend, StandardUeberschriften(), "", "12.03.2021, 19:30:00");
+        QTextDocument document;
+        document.setDefaultFont(QFont(u"DejaVu Sans Mono"_s, size));
+        SchreibeStuecke(document, blatt.Stuecke, blatt.Schrift);
+        const QString file = dir.filePath(QString::fromLatin1(QTest::currentDataTag()) + u".pdf"_s);
+        const QList<QList<Word>> full = print(document, file, Choice{});
+
+        QVERIFY(!full.isEmpty() && full[0].size() > 1);
         // The title's first word has ten letters; some two lines of the first page are neighbours.
-        const double top = pages[0][0].top, letter = (pages[0][0].right - pages[0][0].left) / 10;
+        const double top = full[0][0].top, letter = (full[0][0].right - full[0][0].left) / 10;
         double height = 1000;
-        for (qsizetype w = 1; w < pages[0].size(); ++w) {
-            if (pages[0][w].top > pages[0][w - 1].top)
-                height = std::min(height, pages[0][w].top - pages[0][w - 1].top);
+        for (qsizetype w = 1; w < full[0].size(); ++w) {
+            if (full[0][w].top > full[0][w - 1].top)
+                height = std::min(height, full[0][w].top - full[0][w - 1].top);
         }
         // A word's box begins at the top of its letters, a little below the top of its line; the font's
         // letters are 0.6 em wide, so the print keeps the sheet's size.
@@ -81,8 +119,8 @@ private Q_SLOTS:
             qPrintable(u"top %1, letter %2"_s.arg(top).arg(letter)));
 
         QStringList printed, expected, lines;
-        for (qsizetype p = 0; p < pages.size(); ++p) {
-            for (const Word &word : pages[p]) {
+        for (qsizetype p = 0; p < full.size(); ++p) {
+            for (const Word &word : full[p]) {
                 // Line and column in tenths, so that a word a tenth of a line or a letter off its place shows.
                 const double line = (word.top - top) / height, column = (word.left - 36) / letter;
                 printed << u"%1.%2.%3 %4"_s.arg(p).arg(qRound(line * 10)).arg(qRound(column * 10)).arg(word.text);
@@ -107,10 +145,20 @@ private Q_SLOTS:
                                 .arg(m.captured());
             }
         }
-        QCOMPARE(pages.size(), (lines.size() + perPage - 1) / perPage);
+        QCOMPARE(full.size(), (lines.size() + perPage - 1) / perPage);
         QCOMPARE(printed, expected);
         const QString fonts = popplerOutput(u"pdffonts"_s, {file});
         QVERIFY2(fonts.contains(u"Bold"_s) && fonts.contains(u"Oblique"_s), qPrintable(fonts));
+
+        if (choice != Choice{}) {
+            // Pages that the choice leaves out make no file at all: nothing is printed.
+            const QString chosenFile = dir.filePath(QString::fromLatin1(QTest::currentDataTag()) + u" chosen.pdf"_s);
+            QList<QList<Word>> taken;
+            for (const int page : pages)
+                taken << full.value(page - 1);
+            QCOMPARE(print(document, chosenFile, choice), taken);
+            QCOMPARE(QFile::exists(chosenFile), !pages.isEmpty());
+        }
     }
 };
 
