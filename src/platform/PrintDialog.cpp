@@ -30,7 +30,7 @@ bool QtPrintDialog::exec(QPrinter &printer)
     // What the printing honours, and only that: a page range, copies and their collation, the
     // page order and the paper. The sheet has no selection and no current page to print.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
-        | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+                      | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
     return dialog.exec() == QDialog::Accepted;
 }
 

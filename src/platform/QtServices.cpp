@@ -11,8 +11,7 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 
-namespace platform
-{
+namespace platform {
 
 void QtBeep::beep()
 {
@@ -55,8 +54,7 @@ std::string QtFonts::at(int index)
     return index >= 0 && index < m_families.size() ? utf8(m_families.at(index)) : std::string();
 }
 
-namespace
-{
+namespace {
 
 // A date or time format of Qt's locale data as the sheet writes it. The data comes from CLDR,
 // and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand

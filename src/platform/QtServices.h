@@ -9,17 +9,14 @@
 
 #include <QStringList>
 
-namespace platform
-{
+namespace platform {
 
-class QtBeep final : public BeepService
-{
+class QtBeep final : public BeepService {
 public:
     void beep() override;
 };
 
-class QtMessageBox final : public MessageService
-{
+class QtMessageBox final : public MessageService {
 public:
     void show(std::string_view text) override;
 };
@@ -27,8 +24,7 @@ public:
 // The installed font families, each under its own name once, whichever foundries make it;
 // read once: the list does not change during an evening, and asking Qt anew for each of the
 // hundreds of families would cost at every refresh.
-class QtFonts final : public FontService
-{
+class QtFonts final : public FontService {
 public:
     int count() override;
     std::string at(int index) override;
@@ -42,15 +38,13 @@ private:
 // Date and time of day as the user's locale writes them, with the year in full and the
 // seconds but without the time zone: in German "12.03.2021, 19:30:00", in American English
 // "3/12/2021, 7:30:00 PM". Qt's own locale tables serve, which the program has loaded anyway.
-class QtDateFormat final : public DateFormatService
-{
+class QtDateFormat final : public DateFormatService {
 public:
     std::string format(DateTime moment) override;
 };
 
 // All of the above, installed for as long as the object lives.
-class QtServices
-{
+class QtServices {
 public:
     QtServices();
     ~QtServices();

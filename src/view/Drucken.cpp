@@ -13,8 +13,7 @@
 #include <memory>
 #include <vector>
 
-namespace
-{
+namespace {
 
 // One laid-out line of the copy, with its top and bottom in the copy's coordinates.
 struct Zeile {

@@ -10,8 +10,7 @@
 class QPrinter;
 class QTextDocument;
 
-namespace Druckseite
-{
+namespace Druckseite {
 inline constexpr int Breite = 540;
 inline constexpr int Hoehe = 648;
 inline constexpr int Randabzug = 48;

@@ -9,8 +9,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
-class DatumTest : public QObject
-{
+class DatumTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -34,7 +33,7 @@ private Q_SLOTS:
             latin(u"[A-Za-z]"_qs);
         QStringList wrong;
         for (const QLocale &locale :
-            QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
             QLocale::setDefault(locale);
             const QString text = QString::fromStdString(moment.ToString());
             QLocale digits = locale;
@@ -44,8 +43,8 @@ private Q_SLOTS:
             for (auto it = quoted.globalMatch(formats); it.hasNext();)
                 words << it.next().captured(1);
             // The longest first, so that "h" does not take a letter out of "horo".
-            std::sort(
-                words.begin(), words.end(), [](const QString &a, const QString &b) { return a.size() > b.size(); });
+            std::sort(words.begin(), words.end(),
+                      [](const QString &a, const QString &b) { return a.size() > b.size(); });
             QString rest = text;
             for (const QString &word : std::as_const(words))
                 rest.remove(word, Qt::CaseInsensitive);

@@ -16,8 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-class SchriftenTest : public QObject
-{
+class SchriftenTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -25,7 +24,7 @@ private Q_SLOTS:
     {
         const QStringList families = QFontDatabase::families();
         QVERIFY2(families.contains(u"Courier [urw]"_s) && families.contains(u"Courier [UKWN]"_s),
-            qPrintable(families.join(u", "_s)));
+                 qPrintable(families.join(u", "_s)));
         platform::QtFonts fonts;
         platform::install(&fonts);
         QVERIFY(FontAvailable("Courier"));

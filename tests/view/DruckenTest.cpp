@@ -5,10 +5,10 @@
 // page, line and column, with the lines wrapped at the block width and the pages filled with whole
 // lines, the block standing at the page's corner, and the bold and italic cuts of the font; and the
 // page range, copies and page order of the print dialog, as pages taken from the full printout.
-#include "view/Drucken.h"
 #include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
 #include "view/BlattSchreiben.h"
+#include "view/Drucken.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -33,8 +33,7 @@ struct Choice {
 };
 Q_DECLARE_METATYPE(Choice)
 
-class DruckenTest : public QObject
-{
+class DruckenTest : public QObject {
     Q_OBJECT
     QTemporaryDir dir;
 
@@ -54,7 +53,7 @@ class DruckenTest : public QObject
             uR"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)"[^>]*>([^<]*)<)re"_s);
         QList<QList<Word>> pages;
         for (const QString &page :
-            popplerOutput(u"pdftotext"_s, {u"-bbox"_s, u"-raw"_s, file, u"-"_s}).split(u"<page "_s).mid(1)) {
+             popplerOutput(u"pdftotext"_s, {u"-bbox"_s, u"-raw"_s, file, u"-"_s}).split(u"<page "_s).mid(1)) {
             pages.append(QList<Word>());
             for (auto it = word.globalMatch(page); it.hasNext();) {
                 const QRegularExpressionMatch m = it.next();
@@ -116,7 +115,7 @@ private Q_SLOTS:
         // A word's box begins at the top of its letters, a little below the top of its line; the font's
         // letters are 0.6 em wide, so the print keeps the sheet's size.
         QVERIFY2(top >= 35.5 && top < 39 && std::abs(letter / size - 0.6) < 0.01,
-            qPrintable(u"top %1, letter %2"_s.arg(top).arg(letter)));
+                 qPrintable(u"top %1, letter %2"_s.arg(top).arg(letter)));
 
         QStringList printed, expected, lines;
         for (qsizetype p = 0; p < full.size(); ++p) {
