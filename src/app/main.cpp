@@ -17,7 +17,7 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"Tafelkasse"_qs);
-    QApplication::setApplicationVersion(u"1.0.0"_qs);
+    QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
     // dialog, the sheet's context menu) do too, where Qt's translations are installed.
     QTranslator qtTexte;
