@@ -24,12 +24,8 @@ export LC_ALL=C.UTF-8
 # The checkout as it stands, uncommitted changes included, without its build directories: the
 # package build writes into its source tree and its results beside it.
 mkdir "$work/tafelkasse"
-if git -C "$source" rev-parse --is-inside-work-tree >/dev/null 2>&1; then
-    git -C "$source" ls-files -z --cached --others --exclude-standard |
-        tar -C "$source" --null --ignore-failed-read -T - -cf - 2>/dev/null | tar -C "$work/tafelkasse" -xf -
-else
-    tar -C "$source" --exclude-vcs --exclude='./build*' -cf - . | tar -C "$work/tafelkasse" -xf -
-fi
+git -C "$source" ls-files -z --cached --others --exclude-standard |
+    tar -C "$source" --null --ignore-failed-read -T - -cf - 2>/dev/null | tar -C "$work/tafelkasse" -xf -
 
 # Its tests are left out: the same tests run in this suite.
 (cd "$work/tafelkasse" && DEB_BUILD_OPTIONS="nocheck parallel=2" \
@@ -45,7 +41,7 @@ changelog_day=$(dpkg-parsechangelog -l "$work/tafelkasse/debian/changelog" -S Da
 
 dpkg-deb -x "$deb" "$work/root"
 for f in bin/tafelkasse share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
-    share/icons/hicolor/scalable/apps/$id.svg share/man/man1/tafelkasse.1.gz share/doc/tafelkasse/copyright; do
+    share/icons/hicolor/scalable/apps/$id.svg; do
     [ -s "$work/root/usr/$f" ] || fail "missing in the package: $f"
 done
 program=$work/root/usr/bin/tafelkasse
