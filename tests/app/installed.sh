@@ -3,11 +3,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # The program as a user gets it: the Debian package, built as Debian builds it from a scratch
-# copy of the source. Debian's checker must pass it without an error or a warning; the program
-# must carry the distribution's hardening and no RUNPATH, its debug symbols must be in the
-# -dbgsym package, the package's version and day must be those of the build, the desktop entry
-# and the software-centre metadata must be valid, and the program must start from where the
-# package is unpacked.
+# copy of the source, passes lintian without an error or a warning; the program has the
+# distribution's hardening, no RUNPATH and its debug symbols in the -dbgsym package; version and
+# day are those of the build; desktop entry and metadata are valid; the program starts unpacked.
 # Usage: installed.sh SOURCE_DIR VERSION RELEASE_DATE
 set -euo pipefail
 source=$1 version=$2 day=$3
