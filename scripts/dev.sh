@@ -13,7 +13,8 @@ top=$(pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev)
-packages_test=(xvfb xauth xdotool imagemagick poppler-utils fonts-dejavu-core python3 strace desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev)
+packages_test=(xvfb xauth xdotool imagemagick poppler-utils fonts-dejavu-core python3 strace desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
+    build-essential debhelper lintian devscripts blhc dbus-daemon)
 
 source "$top/scripts/install-missing.sh"
 

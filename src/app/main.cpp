@@ -18,7 +18,7 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"Tafelkasse"_qs);
-    QApplication::setApplicationVersion(u"1.0.0"_qs);
+    QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
     // own picture on the window and in the task bar, whatever icon theme is installed.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_qs);
