@@ -2,15 +2,96 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Driving the program in an X server without a window manager, for scripts that source this.
+# Nothing here sleeps for a fixed time: each step waits until what it needs is on the screen,
+# polling up to a deadline, so that a busy machine makes a run slower but not wrong.
+
+wait_limit=60 # seconds for any one thing to happen
+
+# own_desktop SCREEN SCRIPT ARGS...: runs the script again on a desktop of its own and exits
+# with its exit code; inside that run it returns at once. The desktop is an X server, a session bus
+# (so that the toolkit finds one and launches none, as it would on a real desktop) and a home
+# with its own XDG folders, so that nothing of the machine's user is read or written.
+own_desktop() {
+    if [ -n "${DISPLAY:-}" ] && [ "${TAFELKASSE_OWN_DESKTOP:-}" = 1 ]; then
+        unset QT_QPA_PLATFORM
+        return 0
+    fi
+    local screen=$1 rc=0
+    shift
+    desktop_home=$(mktemp -d)
+    trap 'rm -rf "$desktop_home"' EXIT
+    mkdir -m 700 "$desktop_home/runtime"
+    env TAFELKASSE_OWN_DESKTOP=1 HOME="$desktop_home" XDG_RUNTIME_DIR="$desktop_home/runtime" \
+        XDG_CACHE_HOME="$desktop_home/.cache" XDG_CONFIG_HOME="$desktop_home/.config" \
+        XDG_DATA_HOME="$desktop_home/.local/share" \
+        xvfb-run -a -s "-screen 0 $screen" dbus-run-session -- bash "$@" || rc=$?
+    exit "$rc"
+}
+
+# Runs the command until it succeeds, or fails saying what did not happen in time.
+until_true() { # what is awaited, command...
+    local what=$1 deadline=$((SECONDS + wait_limit))
+    shift
+    until "$@"; do
+        [ "$SECONDS" -lt "$deadline" ] || { echo "waited ${wait_limit} s in vain for $what" >&2; return 1; }
+        sleep 0.1
+    done
+}
+
+# The program's visible windows whose titles match, one id a line. A window without a title
+# of its own is shown with the program's name, "Tafelkasse".
+visible() { # title as an extended regular expression
+    local w
+    for w in $(xdotool search --onlyvisible --classname '^tafelkasse$' 2>/dev/null); do
+        xdotool getwindowname "$w" 2>/dev/null | grep -qE -- "$1" && echo "$w"
+    done
+    return 0
+}
+is_open() { [ -n "$(visible "$1")" ]; }
+is_gone() { [ -z "$(visible "$1")" ]; }
 
 # The first visible window whose title matches, once it is there.
-window() { timeout 20 xdotool search --sync --onlyvisible --name "$1" | head -n 1; }
+window() { # title
+    until_true "a window titled '$1'" is_open "$1" && visible "$1" | head -n 1
+}
+
+# Returns once no window of that title is on the screen any more.
+gone() { # title
+    until_true "the window titled '$1' to close" is_gone "$1"
+}
 
 # Types into the window of that title, once it is there and has the keyboard.
 keys() { # title, xdotool key arguments...
     local w
-    w=$(window "$1")
+    w=$(window "$1") || return 1
     shift
-    xdotool windowfocus --sync "$w" key --delay 30 "$@"
-    sleep 0.3
+    timeout "$wait_limit" xdotool windowfocus --sync "$w" key --delay 30 "$@"
 }
+
+# Types keys that close the dialog of that title, and returns when it has closed, so that the
+# next key goes to a window that is no longer blocked by it.
+keys_and_gone() { # title, xdotool key arguments...
+    keys "$@" && gone "$1"
+}
+
+# A fingerprint of what the window shows: its number of colours and a hash of its pixels.
+picture() { import -window "$1" -format '%k %#' info:- 2>/dev/null; }
+
+# Waits until the window shows a finished picture and prints its fingerprint: more than one
+# colour (it has been painted), the same in two grabs one after the other (the paint is not
+# half through) and, if a fingerprint is given, different from that one (what was typed or
+# entered before has been drawn).
+settled() { # window, fingerprint of the picture it must have left behind
+    local previous='' now
+    settled_now() {
+        now=$(picture "$1")
+        [ "${now%% *}" -gt 1 ] 2>/dev/null && [ "$now" = "$previous" ] && [ "$now" != "${2:-}" ] && return 0
+        previous=$now
+        return 1
+    }
+    until_true "a finished picture of window $1" settled_now "$@" && echo "$now"
+}
+
+# Returns when the process has ended; its exit code is then for the caller's wait.
+has_ended() { ! kill -0 "$1" 2>/dev/null; }
+ended() { until_true "the program to end" has_ended "$1"; }
