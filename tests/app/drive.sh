@@ -8,23 +8,21 @@
 wait_limit=60 # seconds for any one thing to happen
 
 # own_desktop SCREEN SCRIPT ARGS...: runs the script again on a desktop of its own and exits
-# with its exit code; inside that run it returns at once. The desktop is an X server, a session bus
-# (so that the toolkit finds one and launches none, as it would on a real desktop) and a home
-# with its own XDG folders, so that nothing of the machine's user is read or written.
+# with its exit code; within that run it returns at once. The desktop is an X server, a session
+# bus (the toolkit finds one and launches none, as on a real desktop) and a home of its own, in
+# which the XDG folders fall back to their defaults: nothing of the machine's user is touched.
 own_desktop() {
     if [ -n "${DISPLAY:-}" ] && [ "${TAFELKASSE_OWN_DESKTOP:-}" = 1 ]; then
         unset QT_QPA_PLATFORM
         return 0
     fi
-    local screen=$1 rc=0
-    shift
+    local rc=0
     desktop_home=$(mktemp -d)
     trap 'rm -rf "$desktop_home"' EXIT
     mkdir -m 700 "$desktop_home/runtime"
-    env TAFELKASSE_OWN_DESKTOP=1 HOME="$desktop_home" XDG_RUNTIME_DIR="$desktop_home/runtime" \
-        XDG_CACHE_HOME="$desktop_home/.cache" XDG_CONFIG_HOME="$desktop_home/.config" \
-        XDG_DATA_HOME="$desktop_home/.local/share" \
-        xvfb-run -a -s "-screen 0 $screen" dbus-run-session -- bash "$@" || rc=$?
+    env -u XDG_CONFIG_HOME -u XDG_DATA_HOME -u XDG_CACHE_HOME -u XDG_STATE_HOME TAFELKASSE_OWN_DESKTOP=1 \
+        HOME="$desktop_home" XDG_RUNTIME_DIR="$desktop_home/runtime" \
+        xvfb-run -a -s "-screen 0 $1" dbus-run-session -- bash "${@:2}" || rc=$?
     exit "$rc"
 }
 
@@ -79,17 +77,18 @@ picture() { import -window "$1" -format '%k %#' info:- 2>/dev/null; }
 
 # Waits until the window shows a finished picture and prints its fingerprint: more than one
 # colour (it has been painted), the same in two grabs one after the other (the paint is not
-# half through) and, if a fingerprint is given, different from that one (what was typed or
-# entered before has been drawn).
+# half through) and, if a fingerprint is given, another one (what was typed or entered before
+# has been drawn).
 settled() { # window, fingerprint of the picture it must have left behind
-    local previous='' now
-    settled_now() {
-        now=$(picture "$1")
-        [ "${now%% *}" -gt 1 ] 2>/dev/null && [ "$now" = "$previous" ] && [ "$now" != "${2:-}" ] && return 0
-        previous=$now
-        return 1
-    }
-    until_true "a finished picture of window $1" settled_now "$@" && echo "$now"
+    last_picture=''
+    until_true "a finished picture of window $1" same_picture_twice "$@" && echo "$last_picture"
+}
+same_picture_twice() {
+    local now
+    now=$(picture "$1")
+    [ "$now" = "$last_picture" ] && [ "${now%% *}" -gt 1 ] 2>/dev/null && [ "$now" != "${2:-}" ] && return 0
+    last_picture=$now
+    return 1
 }
 
 # Returns when the process has ended; its exit code is then for the caller's wait.
