@@ -11,6 +11,8 @@ wait_limit=60 # seconds for any one thing to happen
 # with its exit code; within that run it returns at once. The desktop is an X server, a session
 # bus (the toolkit finds one and launches none, as on a real desktop) and a home of its own, in
 # which the XDG folders fall back to their defaults: nothing of the machine's user is touched.
+# The X server picks a free display itself and tells its number, so that runs side by side, of
+# this project or any other, cannot end up on the same display.
 own_desktop() {
     if [ -n "${DISPLAY:-}" ] && [ "${TAFELKASSE_OWN_DESKTOP:-}" = 1 ]; then
         unset QT_QPA_PLATFORM
@@ -18,11 +20,15 @@ own_desktop() {
     fi
     local rc=0
     desktop_home=$(mktemp -d)
-    trap 'rm -rf "$desktop_home"' EXIT
     mkdir -m 700 "$desktop_home/runtime"
-    env -u XDG_CONFIG_HOME -u XDG_DATA_HOME -u XDG_CACHE_HOME -u XDG_STATE_HOME TAFELKASSE_OWN_DESKTOP=1 \
-        HOME="$desktop_home" XDG_RUNTIME_DIR="$desktop_home/runtime" \
-        xvfb-run -a -s "-screen 0 $1" dbus-run-session -- bash "${@:2}" || rc=$?
+    Xvfb -displayfd 3 -screen 0 "$1" -nolisten tcp 3>"$desktop_home/display" 2>"$desktop_home/xvfb.log" &
+    desktop_x=$!
+    trap 'kill $desktop_x 2>/dev/null && wait $desktop_x; rm -rf "$desktop_home"' EXIT
+    until_true "the X server to start" grep -qs '^[0-9]' "$desktop_home/display" \
+        || { cat "$desktop_home/xvfb.log"; exit 1; }
+    env -u XDG_CONFIG_HOME -u XDG_DATA_HOME -u XDG_CACHE_HOME -u XDG_STATE_HOME -u XAUTHORITY \
+        TAFELKASSE_OWN_DESKTOP=1 DISPLAY=":$(cat "$desktop_home/display")" HOME="$desktop_home" \
+        XDG_RUNTIME_DIR="$desktop_home/runtime" dbus-run-session -- bash "${@:2}" || rc=$?
     exit "$rc"
 }
 
