@@ -1,5 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
 #
 # Driving the program in an X server without a window manager, for scripts that source this.
 # Nothing here sleeps for a fixed time: each step waits until what it needs is on the screen,
