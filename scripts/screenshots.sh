@@ -52,5 +52,5 @@ game 0 36 12 8 2 2
 game 52 4 0 16 1 3 ergebnisse.png
 import -window "$main" "$out/spielstand.png"
 keys '^Tafelkasse Version' ctrl+q
-ended $pid
+ended_well $pid
 echo "pictures in $out"

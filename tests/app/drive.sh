@@ -13,7 +13,9 @@ wait_limit=60 # seconds for any one thing to happen
 # bus (the toolkit finds one and launches none, as on a real desktop) and a home of its own, in
 # which the XDG folders fall back to their defaults: nothing of the machine's user is touched.
 # The X server picks a free display itself and tells its number, so that runs side by side, of
-# this project or any other, cannot end up on the same display.
+# this project or any other, cannot end up on the same display. It does not reset when its last
+# client goes: a program that connects during a reset is turned away, and the polling here
+# comes and goes all the time.
 own_desktop() {
     if [ -n "${DISPLAY:-}" ] && [ "${TAFELKASSE_OWN_DESKTOP:-}" = 1 ]; then
         unset QT_QPA_PLATFORM
@@ -22,7 +24,7 @@ own_desktop() {
     local rc=0
     desktop_home=$(mktemp -d)
     mkdir -m 700 "$desktop_home/runtime"
-    Xvfb -displayfd 3 -screen 0 "$1" -nolisten tcp 3>"$desktop_home/display" 2>"$desktop_home/xvfb.log" &
+    Xvfb -displayfd 3 -screen 0 "$1" -nolisten tcp -noreset 3>"$desktop_home/display" 2>"$desktop_home/xvfb.log" &
     desktop_x=$!
     trap 'kill $desktop_x 2>/dev/null && wait $desktop_x; rm -rf "$desktop_home"' EXIT
     until_true "the X server to start" grep -qs '^[0-9]' "$desktop_home/display" \
@@ -33,12 +35,19 @@ own_desktop() {
     exit "$rc"
 }
 
-# Runs the command until it succeeds, or fails saying what did not happen in time.
+# Runs the command until it succeeds, or fails saying what did not happen in time and what
+# the screen showed instead.
 until_true() { # what is awaited, command...
-    local what=$1 deadline=$((SECONDS + wait_limit))
+    local what=$1 deadline=$((SECONDS + wait_limit)) w
     shift
     until "$@"; do
-        [ "$SECONDS" -lt "$deadline" ] || { echo "waited ${wait_limit} s in vain for $what" >&2; return 1; }
+        if [ "$SECONDS" -ge "$deadline" ]; then
+            echo "waited ${wait_limit} s in vain for $what" >&2
+            for w in $(xdotool search --onlyvisible --classname '^tafelkasse$' 2>/dev/null); do
+                echo "on the screen: $w '$(xdotool getwindowname "$w")'" >&2
+            done
+            return 1
+        fi
         sleep 0.1
     done
 }
@@ -98,6 +107,12 @@ same_picture_twice() {
     return 1
 }
 
-# Returns when the process has ended; its exit code is then for the caller's wait.
+# Waits until the process has ended, and fails unless it ended with exit code 0.
+ended_well() { # pid
+    local rc=0
+    until_true "the program to end" has_ended "$1" || return 1
+    wait "$1" || rc=$?
+    echo "exit code $rc"
+    [ "$rc" -eq 0 ]
+}
 has_ended() { ! kill -0 "$1" 2>/dev/null; }
-ended() { until_true "the program to end" has_ended "$1"; }

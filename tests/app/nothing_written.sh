@@ -48,11 +48,7 @@ keys '^Tafelkasse Version' ctrl+n
 keys_and_gone '^Tafelkasse$' Return
 keys '^Tafelkasse Version' ctrl+q
 
-ended $pid
-rc=0
-wait $pid || rc=$?
-echo "exit code $rc"
-[ "$rc" -eq 0 ]
+ended_well $pid
 
 # What the evening touched: opens for writing or creating, and the calls that change names.
 changes=$(grep -E 'O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|creat\(|rename|unlink|mkdir|rmdir|truncate|link\(|linkat|symlink' "$trace" \

@@ -38,10 +38,6 @@ close)
     ;;
 esac
 
-ended $pid
-rc=0
-wait $pid || rc=$?
+ended_well $pid
 trap - EXIT
-echo "exit code $rc"
-[ "$rc" -eq 0 ]
 [ -s "$screenshot" ]
