@@ -3,9 +3,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # One entry point for a fresh Debian 12 machine:
-#   scripts/dev.sh run   installs what is missing, builds, starts Tafelkasse
-#   scripts/dev.sh test  installs what is missing, builds the normal and the
-#                        sanitizer configuration and runs every test in both
+#   scripts/dev.sh run      installs what is missing, builds the program, starts Tafelkasse
+#   scripts/dev.sh test     installs what is missing, builds the normal, sanitizer and fuzz
+#                           configurations, runs every test in them and the static analysis
+#   scripts/dev.sh analyse  the static analysis alone
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
@@ -13,38 +14,83 @@ top=$(pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev)
-packages_test=(xvfb xauth xdotool imagemagick poppler-utils fonts-dejavu-core python3 strace desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
-    build-essential debhelper lintian devscripts blhc dbus-daemon)
+packages_test=(xvfb xdotool imagemagick poppler-utils fonts-dejavu-core python3 strace dbus-daemon
+    desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
+    build-essential debhelper lintian devscripts blhc)
+packages_analysis=(clang-tidy-14 clazy)
 
 source "$top/scripts/install-missing.sh"
 
-configure_and_build() { # dir, extra cmake args...
+configure() { # build dir, cmake args...
     local dir=$1
     shift
     cmake -S "$top" -B "$top/$dir" -G Ninja "$@"
-    cmake --build "$top/$dir" --parallel "$jobs"
+}
+
+build() { # build dir, [--target TARGET...]
+    local dir=$1
+    shift
+    cmake --build "$top/$dir" --parallel "$jobs" "$@"
+}
+
+# The analysis reads the normal build's compile commands.
+normal=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
+
+# Static analysis of our sources with the compile commands of the normal build: clang-tidy
+# with the checks in .clang-tidy, and clazy with the checks of Qt's level 1 and those of level 2
+# that fit a program of this size. Any finding fails; a finding that is wrong for a line is
+# silenced at that line with its reason.
+clazy_checks=level1,base-class-event,copyable-polymorphic,ctor-missing-parent-argument,function-args-by-ref,function-args-by-value,global-const-char-pointer,missing-qobject-macro,missing-typeinfo,qstring-allocations,returning-void-expression,rule-of-three,static-pmf,virtual-call-ctor
+analyse() {
+    local sources tidy=0 clazy=0 start=$SECONDS
+    mapfile -t sources < <(find "$top/src" -name '*.cpp' | sort)
+    # clang-tidy counts what it hides in Qt's headers; only what it shows matters.
+    printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$jobs" clang-tidy-14 -p "$top/build" --quiet 2>&1 \
+        | sed '/^[0-9]* warnings\? generated\.$/d' || tidy=$?
+    printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$jobs" clazy-standalone -p "$top/build" \
+        --checks="$clazy_checks" --header-filter="^$top/src/[a-z]+/[^/]+\.h$" --extra-arg=-Werror || clazy=$?
+    [ "$tidy" -eq 0 ] || echo "clang-tidy has findings (above)." >&2
+    [ "$clazy" -eq 0 ] || echo "clazy has findings (above)." >&2
+    [ "$tidy" -eq 0 ] && [ "$clazy" -eq 0 ] || return 1
+    echo "clang-tidy and clazy: no findings in ${#sources[@]} files of src/ ($((SECONDS - start)) s)"
 }
 
 case "${1:-}" in
 run)
     install_missing "${packages_build[@]}"
-    configure_and_build build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+    configure build "${normal[@]}"
+    build build --target tafelkasse
     exec "$top/build/src/app/tafelkasse"
     ;;
 test)
-    install_missing "${packages_build[@]}" "${packages_test[@]}"
-    configure_and_build build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAFELKASSE_WERROR=ON
+    install_missing "${packages_build[@]}" "${packages_test[@]}" "${packages_analysis[@]}"
+    configure build "${normal[@]}" -DTAFELKASSE_WERROR=ON
+    build build
     ctest --test-dir "$top/build" --output-on-failure --parallel "$jobs"
-    configure_and_build build-asan -DCMAKE_BUILD_TYPE=Debug -DTAFELKASSE_WERROR=ON -DTAFELKASSE_SANITIZE=ON
+    configure build-asan -DCMAKE_BUILD_TYPE=Debug -DTAFELKASSE_WERROR=ON -DTAFELKASSE_SANITIZE=ON
+    build build-asan
     ctest --test-dir "$top/build-asan" --output-on-failure --parallel "$jobs"
     # The fuzz targets need clang's libFuzzer; they build alone, not the whole program.
-    CC=clang-14 CXX=clang++-14 cmake -S "$top" -B "$top/build-fuzz" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-        -DTAFELKASSE_WERROR=ON -DTAFELKASSE_FUZZ=ON
-    cmake --build "$top/build-fuzz" --parallel "$jobs" --target ValFuzz AbrechnungFuzz
-    ctest --test-dir "$top/build-fuzz" --output-on-failure -L fuzz
+    CC=clang-14 CXX=clang++-14 configure build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAFELKASSE_WERROR=ON \
+        -DTAFELKASSE_FUZZ=ON
+    build build-fuzz --target ValFuzz AbrechnungFuzz
+    # Each fuzz target runs for a fixed time on one core: the analysis takes the other meanwhile.
+    analyse >"$top/build/analysis.log" 2>&1 &
+    analysis=$!
+    fuzz_rc=0 analysis_rc=0
+    ctest --test-dir "$top/build-fuzz" --output-on-failure -L fuzz || fuzz_rc=$?
+    wait $analysis || analysis_rc=$?
+    cat "$top/build/analysis.log"
+    [ "$fuzz_rc" -eq 0 ] && [ "$analysis_rc" -eq 0 ]
+    ;;
+analyse)
+    install_missing "${packages_build[@]}" "${packages_analysis[@]}"
+    configure build "${normal[@]}"
+    build build --target tafelkasse # the analysis needs the files that moc writes
+    analyse
     ;;
 *)
-    echo "usage: scripts/dev.sh run|test" >&2
+    echo "usage: scripts/dev.sh run|test|analyse" >&2
     exit 2
     ;;
 esac

@@ -14,7 +14,8 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform
+{
 
 enum Lock : unsigned {
     LockLeft = 1,
@@ -23,7 +24,9 @@ enum Lock : unsigned {
     LockBottom = 8,
 };
 
-class Anker : public QObject {
+class Anker : public QObject
+{
+    Q_OBJECT
 public:
     // The container's size for which the coordinates are given.
     Anker(QWidget *container, QSize entwurf);

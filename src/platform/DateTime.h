@@ -18,5 +18,5 @@ struct DateTime {
     // service: in German for example "12.03.2021, 19:30:00".
     std::string ToString() const;
 
-    friend bool operator==(const DateTime &, const DateTime &) = default;
+    friend bool operator==(DateTime, DateTime) = default;
 };

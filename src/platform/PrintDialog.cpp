@@ -5,23 +5,19 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-namespace {
+namespace
+{
 
-class CancelledPrint final : public platform::PrintDialogService {
-public:
-    bool exec(QPrinter &) override { return false; }
-};
-
-CancelledPrint cancelledPrint;
-platform::PrintDialogService *printDialogService = &cancelledPrint;
+platform::PrintDialogService *printDialogService = nullptr;
 
 } // namespace
 
-namespace platform {
+namespace platform
+{
 
 void install(PrintDialogService *service)
 {
-    printDialogService = service ? service : &cancelledPrint;
+    printDialogService = service;
 }
 
 bool QtPrintDialog::exec(QPrinter &printer)
@@ -38,5 +34,6 @@ bool QtPrintDialog::exec(QPrinter &printer)
 
 bool OpenPrinterDialog(QPrinter &printer)
 {
-    return printDialogService->exec(printer);
+    // With no dialog installed, nobody can say yes: the print is cancelled.
+    return printDialogService && printDialogService->exec(printer);
 }

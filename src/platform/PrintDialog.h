@@ -7,13 +7,16 @@
 // dialog is installed, every print is cancelled.
 #pragma once
 
+#include "System.h"
+
 class QPrinter;
 
-namespace platform {
+namespace platform
+{
 
-class PrintDialogService {
+class PrintDialogService : public Service
+{
 public:
-    virtual ~PrintDialogService() = default;
     // Shows the dialog for `printer`; true when the user chose to print.
     virtual bool exec(QPrinter &printer) = 0;
 };
@@ -24,7 +27,8 @@ void install(PrintDialogService *service);
 
 // The dialog of the desktop: Qt's print dialog, without a parent window, as the only
 // dialog that does not belong to the main window.
-class QtPrintDialog final : public PrintDialogService {
+class QtPrintDialog final : public PrintDialogService
+{
 public:
     bool exec(QPrinter &printer) override;
 };

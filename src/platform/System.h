@@ -13,38 +13,51 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
+namespace platform
+{
 
-class BeepService {
+// What the services have in common: each is used through the pointer it was installed with
+// and is never copied. A copy would be cut down to its interface, and a test double's copy
+// would take the original out again when it goes.
+class Service
+{
 public:
-    virtual ~BeepService() = default;
+    Service() = default;
+    Service(const Service &) = delete;
+    Service &operator=(const Service &) = delete;
+    virtual ~Service() = default;
+};
+
+class BeepService : public Service
+{
+public:
     virtual void beep() = 0;
 };
 
-class MessageService {
+class MessageService : public Service
+{
 public:
-    virtual ~MessageService() = default;
     virtual void show(std::string_view text) = 0;
 };
 
-class FontService {
+class FontService : public Service
+{
 public:
-    virtual ~FontService() = default;
     virtual int count() = 0;
     virtual std::string at(int index) = 0;
 };
 
-class ClockService {
+class ClockService : public Service
+{
 public:
-    virtual ~ClockService() = default;
     virtual DateTime now() = 0;
 };
 
 // How a moment is written for the user. The default writes it as German does,
 // "12.03.2021, 19:30:00", in the local time zone; the desktop's follows the user's locale.
-class DateFormatService {
+class DateFormatService : public Service
+{
 public:
-    virtual ~DateFormatService() = default;
     virtual std::string format(DateTime moment) = 0;
 };
 
@@ -61,7 +74,8 @@ std::string FormatDateTime(DateTime moment);
 
 } // namespace platform
 
-namespace System {
+namespace System
+{
 void Beep();
 int FontCount();
 std::string FontAt(int index);

@@ -12,13 +12,16 @@
 
 #include <algorithm>
 
-namespace {
+namespace
+{
 
 constexpr int CanvasSeite = 46;
 
 // The warning icon of the desktop's style, drawn at the top left of the canvas and never
 // larger than the canvas.
-class WarnSymbol : public QWidget {
+class WarnSymbol : public QWidget
+{
+    Q_OBJECT
 public:
     explicit WarnSymbol(QWidget *parent)
         : QWidget(parent)
@@ -95,3 +98,5 @@ void Achtung::OK_Pressed()
     Modul1.DruckKnopf = 1;
     accept();
 }
+
+#include "Achtung.moc"
