@@ -16,6 +16,12 @@ pid=$!
 trap 'kill $pid 2>/dev/null || true' EXIT
 
 main=$(window '^Tafelkasse Version x vom 16\.11\.2019$')
+# What the window asks of a window manager: a close box and a minimize button but no maximize
+# button (the window grows by hand), and the program's own icon, in sizes up to 128 pixels.
+read -r _ _ _ functions decorations _ < <(xprop -id "$main" _MOTIF_WM_HINTS | tr -d ',')
+(((functions & 0x11) == 0 && (functions & 0x28) == 0x28 && (decorations & 0x41) == 0)) ||
+    { echo "the window offers to maximize: $functions $decorations"; exit 1; }
+[[ $(xprop -id "$main" _NET_WM_ICON) == *"Icon (128 x 128)"* ]] || { echo "the window lacks its icon"; exit 1; }
 settled "$main" >/dev/null
 import -window root "$screenshot"
 
