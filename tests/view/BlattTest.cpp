@@ -17,7 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 const std::array<std::string, 4> vier{"Anna", "Bert", "Carl", "Dora"};
 
@@ -36,12 +37,13 @@ QStringList zeilen(const Abend &abend)
 {
     return SheetImage::fromPieces(
         Dokument(abend, StandardUeberschriften(), "Courier", abend.Tagesdatum->ToString()).Stuecke)
-        .lines;
+        .lines();
 }
 
 } // namespace
 
-class BlattTest : public QObject {
+class BlattTest : public QObject
+{
     Q_OBJECT
     const FixedClock clock;
 
@@ -117,7 +119,7 @@ bi|  Dora  40; 240; 48)"_s.split(u'\n'));
         const Blatt kurz = Dokument(abendMitSpielen(0, vier), StandardUeberschriften(), "system", "heute");
         const auto pruefe = [&](const std::vector<Stueck> &stuecke, const QString &schrift) {
             const SheetImage bild = SheetImage::fromDocument(*anzeige.document());
-            QCOMPARE(bild.lines, SheetImage::fromPieces(stuecke).lines);
+            QCOMPARE(bild.lines(), SheetImage::fromPieces(stuecke).lines());
             QCOMPARE(bild.fonts, QSet<QString>{schrift + u",17"_s});
             QVERIFY(anzeige.textCursor().atEnd());
         };
