@@ -118,9 +118,8 @@ bi|  Dora  40; 240; 48)"_s.split(u'\n'));
         const Blatt lang = Dokument(abendMitSpielen(99, vier), StandardUeberschriften(), "Courier", "gestern");
         const Blatt kurz = Dokument(abendMitSpielen(0, vier), StandardUeberschriften(), "system", "heute");
         const auto pruefe = [&](const std::vector<Stueck> &stuecke, const QString &schrift) {
-            const SheetImage bild = SheetImage::fromDocument(*anzeige.document());
-            QCOMPARE(bild.lines(), SheetImage::fromPieces(stuecke).lines());
-            QCOMPARE(bild.fonts, QSet<QString>{schrift + u",17"_s});
+            QCOMPARE(SheetImage::fromDocument(*anzeige.document()).lines(), SheetImage::fromPieces(stuecke).lines());
+            QCOMPARE(SheetImage::fonts(*anzeige.document()), QSet<QString>{schrift + u",17"_s});
             QVERIFY(anzeige.textCursor().atEnd());
         };
         SchreibeBlatt(anzeige, lang);
