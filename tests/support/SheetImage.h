@@ -44,7 +44,8 @@ struct SheetImage {
             for (auto it = block.begin(); !it.atEnd(); ++it) {
                 const QTextCharFormat format = it.fragment().charFormat();
                 std::memset(image.style.data() + it.fragment().position(),
-                    (format.fontWeight() >= QFont::Bold) + 2 * format.fontItalic(), size_t(it.fragment().length()));
+                            (format.fontWeight() >= QFont::Bold) + 2 * format.fontItalic(),
+                            size_t(it.fragment().length()));
             }
         }
         image.endLines();

@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const std::array<std::string, 4> vier{"Anna", "Bert", "Carl", "Dora"};
 
@@ -36,14 +35,13 @@ Abend abendMitSpielen(int anzahl, const std::array<std::string, 4> &namen)
 QStringList zeilen(const Abend &abend)
 {
     return SheetImage::fromPieces(
-        Dokument(abend, StandardUeberschriften(), "Courier", abend.Tagesdatum->ToString()).Stuecke)
+               Dokument(abend, StandardUeberschriften(), "Courier", abend.Tagesdatum->ToString()).Stuecke)
         .lines();
 }
 
 } // namespace
 
-class BlattTest : public QObject
-{
+class BlattTest : public QObject {
     Q_OBJECT
     const FixedClock clock;
 
@@ -103,7 +101,8 @@ bi|  Dora  40; 240; 48)"_s.split(u'\n'));
                 const QString name = qs(abend.Spieler(p));
                 const QString stil = SheetImage::styles[(name == winner) + 2 * (name == east)];
                 erwartet << u"%1  %2  %3; %4; %5"_s.arg(stil, name, QString::number(abend.Ergebnis(p)[n]),
-                    QString::number(abend.Umsatz(p)[n]), QString::number(abend.Stand(p)[n]));
+                                                        QString::number(abend.Umsatz(p)[n]),
+                                                        QString::number(abend.Stand(p)[n]));
             }
         }
         QCOMPARE(zeilen(abend), erwartet);

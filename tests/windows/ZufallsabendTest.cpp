@@ -21,8 +21,7 @@
 
 #include <random>
 
-class ZufallsabendTest : public QObject
-{
+class ZufallsabendTest : public QObject {
     Q_OBJECT
 
     struct Spiel {
@@ -52,9 +51,10 @@ class ZufallsabendTest : public QObject
 
     QString randomText(bool name)
     {
-        static const QStringList kinds{u""_qs, u"   "_qs, u"12.9"_qs, u"-3.7"_qs, u"1e3"_qs, u" -2.5E2xyz"_qs,
-            u"1e400"_qs, u"-99999999999999999999"_qs, u"abc"_qs, u"+-5"_qs, u".5"_qs, u"9223372036854775807"_qs,
-            u"Mah 🀄 Jongg"_qs};
+        static const QStringList kinds{u""_qs,           u"   "_qs,        u"12.9"_qs,  u"-3.7"_qs,
+                                       u"1e3"_qs,        u" -2.5E2xyz"_qs, u"1e400"_qs, u"-99999999999999999999"_qs,
+                                       u"abc"_qs,        u"+-5"_qs,        u".5"_qs,    u"9223372036854775807"_qs,
+                                       u"Mah 🀄 Jongg"_qs};
         switch (below(name ? 5 : 4)) {
         case 0:
             return kinds[below(int(kinds.size()))];
@@ -187,9 +187,9 @@ class ZufallsabendTest : public QObject
         }
         // Names, new game, correction, restart: as buttons, then as menu items.
         QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
-            w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
+                            w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
         for (const char *name : {"ErgebnisseNamenderSpieler", "ErgebnisseErgebnisseeingeben",
-                 "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
+                                 "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
             enabled << w.findChild<QAction *>(QLatin1String(name))->isEnabled();
         const QList<bool> expected{n == 0, (n < 99), n > 0, n > 0};
         if (enabled != expected + expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
