@@ -82,14 +82,14 @@ struct SheetImage {
         return lines;
     }
 
-    // The first line in which the two differ, or nothing when they are equal.
-    static QString firstDifference(const SheetImage &a, const SheetImage &b)
+    // The first line in which what stands differs from what is expected, or nothing when they are equal.
+    static QString firstDifference(const SheetImage &stands, const SheetImage &expected)
     {
-        if (a == b)
+        if (stands == expected)
             return {};
-        const QStringList linesA = a.lines(), linesB = b.lines();
-        const auto i = std::ranges::mismatch(linesA, linesB).in1 - linesA.begin();
-        return u"line %1: \"%2\" vs \"%3\""_qs.arg(QString::number(i + 1), linesA.value(i), linesB.value(i));
+        const QStringList is = stands.lines(), shouldBe = expected.lines();
+        const auto i = std::ranges::mismatch(is, shouldBe).in1 - is.begin();
+        return u"line %1: \"%2\", expected \"%3\""_qs.arg(QString::number(i + 1), is.value(i), shouldBe.value(i));
     }
 
     friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.text == b.text && a.style == b.style; }
