@@ -35,6 +35,8 @@ struct Abend {
     std::uint8_t DruckKnopf = 0;
     std::optional<DateTime> Tagesdatum;
 
+    friend bool operator==(const Abend &, const Abend &) = default;
+
     // Player k (1 to 4) as one of the four fields above.
     const std::string &Spieler(int k) const;
     std::string &Spieler(int k);

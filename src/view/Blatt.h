@@ -28,6 +28,8 @@ struct Ueberschriften {
     std::string ueberschrift_1; // plain
     std::string Ueberschrift_2; // italic: how East is shown
     std::string Ueberschrift_3; // bold: how Mah Jongg is shown
+
+    friend bool operator==(const Ueberschriften &, const Ueberschriften &) = default;
 };
 
 Ueberschriften StandardUeberschriften();

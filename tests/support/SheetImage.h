@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The sheet reduced to what a reader sees: its lines, each as its runs of one style, written "-|" for
-// plain, "b|", "i|" or "bi|" and the run's text. Built from the pieces or read back from a
-// QTextDocument, so that the two can be compared; the fonts are not compared.
+// The sheet reduced to what a reader sees: its characters, every line end as CR, and the style of
+// each (bold + 2 * italic; none on a line end, where nobody sees one). Built from the pieces or read
+// back from a QTextDocument, so that the two compare whole at memory speed, as the random evening
+// does after every action. lines() writes it out for people: each line as its runs of one style,
+// "-|" for plain, "b|", "i|" or "bi|" and the run's text.
 #pragma once
 
 #include "view/Blatt.h"
@@ -14,57 +16,91 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cstring>
 
 struct SheetImage {
     static inline const QStringList styles{u"-|"_qs, u"b|"_qs, u"i|"_qs, u"bi|"_qs}; // by bold + 2 * italic
-    QStringList lines{QString()};
-    QString run; // the style of the last run in the last line
-    QSet<QString> fonts; // read from a document: "family,size" of the fonts its characters are drawn in
-
-    void add(const QString &part, bool bold, bool italic)
-    {
-        const QString style = styles[bold + 2 * italic];
-        for (QChar c : part) {
-            // A line separator inside a paragraph ends a line for the reader as well.
-            if (c == QChar(CR) || c == QChar::ParagraphSeparator || c == QChar::LineSeparator) {
-                lines.append(QString());
-                run.clear();
-            } else {
-                lines.last() += (run == style ? QString() : (run = style)) + c;
-            }
-        }
-    }
+    QString text;
+    QByteArray style; // one per character of text
 
     static SheetImage fromPieces(const std::vector<Stueck> &pieces)
     {
         SheetImage image;
-        for (const Stueck &piece : pieces)
-            image.add(QString::fromStdString(piece.Text), piece.Fett, piece.Kursiv);
+        for (const Stueck &piece : pieces) {
+            const QString part = QString::fromStdString(piece.Text);
+            image.text += part;
+            image.style.append(part.size(), char(piece.Fett + 2 * piece.Kursiv));
+        }
+        image.endLines();
         return image;
     }
 
     static SheetImage fromDocument(const QTextDocument &document)
     {
-        SheetImage image;
+        // The raw text keeps a separator at each paragraph's end, so a fragment's position is its index.
+        SheetImage image{document.toRawText(), {}};
+        image.style.fill(0, image.text.size());
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-            if (block != document.begin())
-                image.add(QString(QChar(CR)), false, false);
             for (auto it = block.begin(); !it.atEnd(); ++it) {
                 const QTextCharFormat format = it.fragment().charFormat();
-                image.add(it.fragment().text(), format.fontWeight() >= QFont::Bold, format.fontItalic());
-                image.fonts.insert(format.font().resolve(document.defaultFont()).toString().section(u',', 0, 1));
+                std::memset(image.style.data() + it.fragment().position(),
+                            (format.fontWeight() >= QFont::Bold) + 2 * format.fontItalic(),
+                            size_t(it.fragment().length()));
             }
         }
+        image.endLines();
         return image;
     }
 
-    // The first line in which the two differ, or nothing when they are equal.
-    static QString firstDifference(const SheetImage &a, const SheetImage &b)
+    // "Family,size" of each font that the document's characters are drawn in.
+    static QSet<QString> fonts(const QTextDocument &document)
     {
-        const auto i = std::ranges::mismatch(a.lines, b.lines).in1 - a.lines.begin();
-        return a == b ? QString()
-                      : u"line %1: \"%2\" vs \"%3\""_qs.arg(QString::number(i + 1), a.lines.value(i), b.lines.value(i));
+        QSet<QString> fonts;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QFont font = it.fragment().charFormat().font().resolve(document.defaultFont());
+                fonts.insert(font.toString().section(u',', 0, 1));
+            }
+        }
+        return fonts;
     }
 
-    friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.lines == b.lines; }
+    QStringList lines() const
+    {
+        QStringList lines;
+        qsizetype at = 0;
+        for (QStringView line : QStringView(text).split(QChar(CR))) {
+            QString written;
+            for (qsizetype i = 0; i < line.size(); ++i, ++at) {
+                if (i == 0 || style[at] != style[at - 1])
+                    written += styles[style[at]];
+                written += line[i];
+            }
+            lines << written;
+            ++at; // the CR
+        }
+        return lines;
+    }
+
+    // The first line in which what stands differs from what is expected, or nothing when they are equal.
+    static QString firstDifference(const SheetImage &stands, const SheetImage &expected)
+    {
+        if (stands == expected)
+            return {};
+        const QStringList is = stands.lines(), shouldBe = expected.lines();
+        const auto i = std::ranges::mismatch(is, shouldBe).in1 - is.begin();
+        return u"line %1: \"%2\", expected \"%3\""_qs.arg(QString::number(i + 1), is.value(i), shouldBe.value(i));
+    }
+
+    friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.text == b.text && a.style == b.style; }
+
+private:
+    // Every line end as CR and without a style: the sheet's own, a paragraph's end in the document and a
+    // line separator inside a paragraph, which ends a line for the reader as well.
+    void endLines()
+    {
+        text.replace(QChar::ParagraphSeparator, QChar(CR)).replace(QChar::LineSeparator, QChar(CR));
+        for (qsizetype i = text.indexOf(QChar(CR)); i >= 0; i = text.indexOf(QChar(CR), i + 1))
+            style[i] = 0;
+    }
 };

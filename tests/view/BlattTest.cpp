@@ -35,8 +35,8 @@ Abend abendMitSpielen(int anzahl, const std::array<std::string, 4> &namen)
 QStringList zeilen(const Abend &abend)
 {
     return SheetImage::fromPieces(
-        Dokument(abend, StandardUeberschriften(), "Courier", abend.Tagesdatum->ToString()).Stuecke)
-        .lines;
+               Dokument(abend, StandardUeberschriften(), "Courier", abend.Tagesdatum->ToString()).Stuecke)
+        .lines();
 }
 
 } // namespace
@@ -101,7 +101,8 @@ bi|  Dora  40; 240; 48)"_s.split(u'\n'));
                 const QString name = qs(abend.Spieler(p));
                 const QString stil = SheetImage::styles[(name == winner) + 2 * (name == east)];
                 erwartet << u"%1  %2  %3; %4; %5"_s.arg(stil, name, QString::number(abend.Ergebnis(p)[n]),
-                    QString::number(abend.Umsatz(p)[n]), QString::number(abend.Stand(p)[n]));
+                                                        QString::number(abend.Umsatz(p)[n]),
+                                                        QString::number(abend.Stand(p)[n]));
             }
         }
         QCOMPARE(zeilen(abend), erwartet);
@@ -116,9 +117,8 @@ bi|  Dora  40; 240; 48)"_s.split(u'\n'));
         const Blatt lang = Dokument(abendMitSpielen(99, vier), StandardUeberschriften(), "Courier", "gestern");
         const Blatt kurz = Dokument(abendMitSpielen(0, vier), StandardUeberschriften(), "system", "heute");
         const auto pruefe = [&](const std::vector<Stueck> &stuecke, const QString &schrift) {
-            const SheetImage bild = SheetImage::fromDocument(*anzeige.document());
-            QCOMPARE(bild.lines, SheetImage::fromPieces(stuecke).lines);
-            QCOMPARE(bild.fonts, QSet<QString>{schrift + u",17"_s});
+            QCOMPARE(SheetImage::fromDocument(*anzeige.document()).lines(), SheetImage::fromPieces(stuecke).lines());
+            QCOMPARE(SheetImage::fonts(*anzeige.document()), QSet<QString>{schrift + u",17"_s});
             QVERIFY(anzeige.textCursor().atEnd());
         };
         SchreibeBlatt(anzeige, lang);

@@ -123,16 +123,19 @@ private Q_SLOTS:
 
     void anEveningFromTheNamesToARestart()
     {
-        // The names open empty; an empty name field gives the player's default name back.
+        // The names open empty; an empty name field gives the player's default name back. A name may be
+        // longer than a line edit's usual 32767 characters and than any line of the sheet.
         Modul1.Spieler1 = "Alt";
+        const QString longName = u"Großer Drache "_qs.repeated(3000);
         QStringList form;
         press("Namen_Button", [&](QWidget *d) {
             form = formOf(d);
             type(d, {"Name_2", "Bert", "Übertrag_1", "12", "Übertrag_4", "-3"});
+            child<QLineEdit>(d, u"Name_3"_qs)->insert(longName);
             click(d, u"OK_Name"_qs);
         });
         QCOMPARE(form, QStringList(8, QString()));
-        QCOMPARE(standings(), (QStringList{"Spieler 1:  12", "Bert:  0", "Spieler 3:  0", "Spieler 4:  -3"}));
+        QCOMPARE(standings(), (QStringList{"Spieler 1:  12", "Bert:  0", longName + u":  0"_qs, "Spieler 4:  -3"}));
 
         // Return in a field is OK. A pasted score is read whole, beyond a line edit's usual 32767 characters.
         press("Ergebnisse_Button", [](QWidget *d) {
@@ -174,7 +177,7 @@ private Q_SLOTS:
         whenModal([&](QWidget *d) { beepsAtWarning = beeps.beeps, click(d, u"OK"_qs); });
         command(Qt::Key_N);
         QCOMPARE(beepsAtWarning, 1);
-        QCOMPARE(standings(), (QStringList{"Spieler 1:  0", "Bert:  0", "Spieler 3:  0", "Spieler 4:  0"}));
+        QCOMPARE(standings(), (QStringList{"Spieler 1:  0", "Bert:  0", longName + u":  0"_qs, "Spieler 4:  0"}));
         QVERIFY(sheet().startsWith(u"Tafelkasse (Test-Version); 12.03.2021, 20:30:00\n"_qs));
     }
 
