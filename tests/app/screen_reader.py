@@ -5,7 +5,8 @@
 # What a screen reader learns of one window of the running program, read through the
 # accessibility bus as Orca reads it: every control that takes the keyboard has a name, and the
 # names and ties that tell alike controls apart are there. Waits for the window to appear on the
-# bus; prints what is wrong and fails. Usage: screen_reader.py main|results|warning
+# bus; prints what is wrong and fails.
+# Usage: screen_reader.py main|warning, or screen_reader.py results PLAYER1 PLAYER2 PLAYER3 PLAYER4
 import sys
 import time
 
@@ -39,7 +40,7 @@ def names_of(node, relation):
                   for t in (r.getTarget(i) for i in range(r.getNTargets())))
 
 
-def check(which):
+def check(which, players):
     window = find_window(TITLES[which])
     nodes = list(below(window))
     by_role = lambda role: [n for n in nodes if n.getRole() == role]
@@ -57,13 +58,13 @@ def check(which):
         for group, choice in (("Mah Jongg", "Mah Jongg"), ("Osten", "Osten")):
             panels = [n for n in by_role(pyatspi.ROLE_PANEL) if n.name == group]
             radios = [n.name for n in below(panels[0]) if n.getRole() == pyatspi.ROLE_RADIO_BUTTON] if panels else []
-            expected = [f"Spieler {k}: {choice}" for k in range(1, 5)]
+            expected = [f"{player}: {choice}" for player in players]
             if radios != expected:
                 problems.append(f"the group {group!r} holds {radios}, not {expected}")
     return problems
 
 
-problems = check(sys.argv[1])
+problems = check(sys.argv[1], sys.argv[2:])
 for problem in problems:
     print(f"{sys.argv[1]}: {problem}")
 sys.exit(1 if problems else 0)

@@ -2,25 +2,32 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Plays an evening on a desktop of its own with the program under strace, then fails if it
-# created, wrote, renamed or deleted any file. The caches of the desktop's fonts and the
-# runtime directory are not the program's own and are left out. The session bus and the X
-# server are not the program either: they run outside the trace.
-# Usage: nothing_written.sh PROGRAM
+# Plays an evening on a desktop of its own with the program under strace and its accessibility
+# on, as when a screen reader runs. On the way, the main window, the results dialog and the
+# restart warning are read through the accessibility bus (screen_reader.py). At the end it fails
+# if the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts
+# and the runtime directory are not the program's own and are left out. The session bus, the
+# accessibility bus and the X server are not the program either: they run outside the trace.
+# Usage: desktop_evening.sh PROGRAM
 set -euo pipefail
 program=$1
-source "$(dirname "$0")/drive.sh"
+here=$(cd "$(dirname "$0")" && pwd)
+source "$here/drive.sh"
 own_desktop 1280x900x24 "$0" "$@"
 trace=$(mktemp)
 trap 'kill $pid 2>/dev/null || true; rm -f "$trace"' EXIT
 
-strace -f -qq -o "$trace" \
+# Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
+reader() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
+
+QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 strace -f -qq -o "$trace" \
     -e trace=open,openat,creat,rename,renameat,renameat2,unlink,unlinkat,mkdir,mkdirat,rmdir,truncate,link,linkat,symlink,symlinkat \
     "$program" &
 pid=$!
 
 main=$(window '^Tafelkasse Version x vom 16\.11\.2019$')
 settled "$main" >/dev/null
+reader main
 eval "$(xdotool getwindowgeometry --shell "$main")"
 top=$((Y + HEIGHT - 616)) # the content area's top, below the menu bar
 
@@ -30,6 +37,7 @@ keys_and_gone '^Namen der MitspielerInnen$' A n n a Tab Tab Tab Tab Tab Tab 2 5 
 # Three games and a correction, by the shortcuts.
 for score in 1 2 3; do
     keys '^Tafelkasse Version' ctrl+e
+    [ "$score" != 1 ] || reader results Anna "Spieler 2" "Spieler 3" "Spieler 4"
     keys_and_gone '^ Ergebnisse eingeben: $' "$score" 0 Return
 done
 keys '^Tafelkasse Version' ctrl+k
@@ -45,6 +53,7 @@ gone '^Tafelkasse$'
 keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
+reader warning
 keys_and_gone '^Tafelkasse$' Return
 keys '^Tafelkasse Version' ctrl+q
 
