@@ -3,8 +3,9 @@
 //
 // The main window, its menu bar and the windows it opens, where exact texts, values or the order
 // of events matter: what the dialogs open on, the restart, the sheet's size and font, the about
-// window, the menus, copying, printing, quitting, the locks and the accessible names. The random
-// evening (ZufallsabendTest) checks ledger, enabled controls and sheet after every action.
+// window, the menus, copying, printing, the locks and the keyboard. The random evening
+// (ZufallsabendTest) checks ledger, enabled controls and sheet after every action; the program's
+// own tests in an X server (tests/app) end it by "Quit", by the close box and by Ctrl+Q.
 #include "Doubles.h"
 #include "Modal.h"
 #include "PrintDoubles.h"
@@ -402,16 +403,6 @@ private Q_SLOTS:
                      && info.contains(QRegularExpression(u"Creator: +Tafelkasse 9\\.8\\n"_qs)),
                  qPrintable(info));
         QCOMPARE((QList<int>{beeps.beeps, printing.opened}), (QList<int>{0, 2})); // one dialog for each Drucken
-    }
-
-    void quitAndBeendenEndTheRunWithCodeZero()
-    {
-        for (const bool byMenu : {false, true}) {
-            QObject scope; // takes the fallback along when the run has ended
-            QTimer::singleShot(5000, &scope, [] { QCoreApplication::exit(7); });
-            QTimer::singleShot(0, &scope, [&] { byMenu ? command(Qt::Key_Q) : button("PushButton5")->click(); });
-            QCOMPARE(QApplication::exec(), 0);
-        }
     }
 };
 
