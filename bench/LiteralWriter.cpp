@@ -16,8 +16,7 @@ class TextArea {
 public:
     explicit TextArea(QTextEdit &edit)
         : m_edit(edit)
-    {
-    }
+    { }
 
     // The length of the whole text, read back from the area each time.
     int valueLength() const { return static_cast<int>(m_edit.toPlainText().size()); }

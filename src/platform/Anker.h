@@ -14,8 +14,7 @@
 
 class QWidget;
 
-namespace platform
-{
+namespace platform {
 
 enum Lock : unsigned {
     LockLeft = 1,
@@ -24,8 +23,7 @@ enum Lock : unsigned {
     LockBottom = 8,
 };
 
-class Anker : public QObject
-{
+class Anker : public QObject {
     Q_OBJECT
 public:
     // The container's size for which the coordinates are given.

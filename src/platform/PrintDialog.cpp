@@ -5,15 +5,13 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-namespace
-{
+namespace {
 
 platform::PrintDialogService *printDialogService = nullptr;
 
 } // namespace
 
-namespace platform
-{
+namespace platform {
 
 void install(PrintDialogService *service)
 {

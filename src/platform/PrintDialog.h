@@ -11,11 +11,9 @@
 
 class QPrinter;
 
-namespace platform
-{
+namespace platform {
 
-class PrintDialogService : public Service
-{
+class PrintDialogService : public Service {
 public:
     // Shows the dialog for `printer`; true when the user chose to print.
     virtual bool exec(QPrinter &printer) = 0;
@@ -27,8 +25,7 @@ void install(PrintDialogService *service);
 
 // The dialog of the desktop: Qt's print dialog, without a parent window, as the only
 // dialog that does not belong to the main window.
-class QtPrintDialog final : public PrintDialogService
-{
+class QtPrintDialog final : public PrintDialogService {
 public:
     bool exec(QPrinter &printer) override;
 };

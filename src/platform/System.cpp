@@ -5,8 +5,7 @@
 #include <chrono>
 #include <ctime>
 
-namespace
-{
+namespace {
 
 // Nothing installed means the quiet default of each service.
 platform::BeepService *beepService = nullptr;
@@ -36,8 +35,7 @@ std::string numericDate(DateTime moment)
 
 } // namespace
 
-namespace platform
-{
+namespace platform {
 
 void install(BeepService *service)
 {

@@ -13,14 +13,12 @@
 #include <string>
 #include <string_view>
 
-namespace platform
-{
+namespace platform {
 
 // What the services have in common: each is used through the pointer it was installed with
 // and is never copied. A copy would be cut down to its interface, and a test double's copy
 // would take the original out again when it goes.
-class Service
-{
+class Service {
 public:
     Service() = default;
     Service(const Service &) = delete;
@@ -28,35 +26,30 @@ public:
     virtual ~Service() = default;
 };
 
-class BeepService : public Service
-{
+class BeepService : public Service {
 public:
     virtual void beep() = 0;
 };
 
-class MessageService : public Service
-{
+class MessageService : public Service {
 public:
     virtual void show(std::string_view text) = 0;
 };
 
-class FontService : public Service
-{
+class FontService : public Service {
 public:
     virtual int count() = 0;
     virtual std::string at(int index) = 0;
 };
 
-class ClockService : public Service
-{
+class ClockService : public Service {
 public:
     virtual DateTime now() = 0;
 };
 
 // How a moment is written for the user. The default writes it as German does,
 // "12.03.2021, 19:30:00", in the local time zone; the desktop's follows the user's locale.
-class DateFormatService : public Service
-{
+class DateFormatService : public Service {
 public:
     virtual std::string format(DateTime moment) = 0;
 };
@@ -74,8 +67,7 @@ std::string FormatDateTime(DateTime moment);
 
 } // namespace platform
 
-namespace System
-{
+namespace System {
 void Beep();
 int FontCount();
 std::string FontAt(int index);

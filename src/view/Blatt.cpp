@@ -37,8 +37,8 @@ std::vector<Stueck> Spiele(const Abend &abend)
     if (letztes > 0)
         stuecke.reserve(static_cast<std::size_t>(letztes) * 5);
     for (std::int64_t n = 1; n <= letztes; ++n) {
-        stuecke.push_back({std::string{CR, CR} + "Spiel Nr. " + Str(n) + CR + "  Mahjongg sagte: " + abend.Mahjongg[n] + CR
-                               + "  Osten war: " + abend.Osten[n] + CR,
+        stuecke.push_back({std::string{CR, CR} + "Spiel Nr. " + Str(n) + CR + "  Mahjongg sagte: " + abend.Mahjongg[n]
+                               + CR + "  Osten war: " + abend.Osten[n] + CR,
                            false, false});
         for (int p = 1; p <= 4; ++p) {
             const std::string &name = abend.Spieler(p);

@@ -12,15 +12,13 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 constexpr int CanvasSeite = 46;
 
 // The warning icon of the desktop's style, drawn at the top left of the canvas and never
 // larger than the canvas.
-class WarnSymbol : public QWidget
-{
+class WarnSymbol : public QWidget {
     Q_OBJECT
 public:
     explicit WarnSymbol(QWidget *parent)
