@@ -72,11 +72,11 @@ private Q_SLOTS:
     void dateAndTimeOfTheEvening()
     {
         // Half a second before 1970 is in its last second of 1969, which Berlin calls 00:59:59.
-        QCOMPARE(DateTime{-500}.ToString(), "01.01.1970, 00:59:59");
+        QCOMPARE(QString::fromStdString(DateTime{-500}.ToString()), u"01.01.1970, 00:59:59"_s);
         platform::QtDateFormat desktop;
         platform::install(&desktop);
         QLocale::setDefault(QLocale(u"en_US"_s));
-        QCOMPARE(DateTime{FixedClock::Maerz2021}.ToString(), "3/12/2021, 7:30:00 PM");
+        QCOMPARE(QString::fromStdString(DateTime{FixedClock::Maerz2021}.ToString()), u"3/12/2021, 7:30:00 PM"_s);
 
         // Every locale that Qt knows writes the year in full and the seconds, in its own digits, and
         // leaves neither empty brackets nor a letter of a format that Qt does not read: the letters left
