@@ -8,8 +8,8 @@
 
 #include <QTest>
 
-#include <cmath>
 #include <climits>
+#include <cmath>
 
 class TextTest : public QObject {
     Q_OBJECT
