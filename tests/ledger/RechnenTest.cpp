@@ -94,21 +94,17 @@ private Q_SLOTS:
         }
     }
 
-    // The games worked by hand, equal names and names of nobody, on carry-overs of 50, -50, 0, 0;
-    // the row holds stale turnovers when it is settled. Expected: turnovers, then balances.
+    // Equal names and names of nobody (the rule itself is worked by hand in the sheet's example evening),
+    // on carry-overs of 50, -50, 0, 0 and stale turnovers in the row. Expected: turnovers, then balances.
     void gamesSettle()
     {
         const QStringList alarm{u"beep"_s, u"Da ist ein Rechenfehler aufgetreten!"_s};
-        const Vier s{30, 12, -7, 5}, c{50, -50, 0, 0}, s10{1, 2, 3, 4}, s0{5, -5, 3, -3}, wrap{Max, Max, 1, 1};
-        pruefe({"Anna", "Bert"}, {100, 20, 30, 40}, c, s10, {400, -260, -90, -50, 450, -310, -90, -50});
-        pruefe({"Carl", "Carl"}, {10, 8, 50, 4}, c, s10, {-92, -98, 300, -110, -42, -148, 300, -110});
-        pruefe({"Dora", "Anna"}, {10, 8, 50, 40}, c, s10, {-156, -86, 82, 160, -106, -136, 82, 160});
+        const Vier s{30, 12, -7, 5}, c{50, -50, 0, 0}, s10{1, 2, 3, 4}, wrap{Max, Max, 1, 1};
         // Of two equal names the lower-numbered player takes the role.
         pruefe({"Anna", "Anna", "Carl", "Dora", "Anna", "Carl"}, s, c, s10, nachRegel(0, 2, s, c));
         pruefe({"Anna", "Bert", "Carl", "Bert", "Carl", "Bert"}, s, c, s10, nachRegel(2, 1, s, c));
         // A name of nobody, the winner's or East's, leaves the stale turnovers; only their sum, wrapped,
         // decides the alarm, and letter case counts.
-        pruefe({"Zoe", "Anna"}, s, c, s0, s0 + Vier{55, -55, 3, -3});
         pruefe({"Anna", "Zoe"}, s, c, wrap, wrap + Vier{Min + 49, Max - 50, 1, 1});
         pruefe({"Zoe", "Anna"}, s, c, s10, s10 + Vier{51, -48, 3, 4}, alarm);
         pruefe({"anna", "Anna"}, s, c, {Max, 1, 0, 0}, {Max, 1, 0, 0, Min + 49, -49, 0, 0}, alarm);

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 Tafelkasse developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The desktop's side of the platform. Which fonts count as installed, asked of Qt's real font
+// database under a font configuration that the test brings in a folder of its own, with its own
+// cache: the DejaVu fonts, the monospaced ones renamed at scan time to "Courier" with the bold one
+// from another foundry, and fontconfig's alias that answers "Palatino" with DejaVu Sans. How the
+// evening's date is written: plainly without a desktop, in the user's locale with one, in every
+// locale with the full year and the seconds.
+#include "Doubles.h"
+#include "ledger/Modul1.h"
+#include "platform/QtServices.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class QtServicesTest : public QObject {
+    Q_OBJECT
+
+public:
+    // Qt's font database reads the configuration when the application starts.
+    static void initMain()
+    {
+        static const QTemporaryDir dir;
+        QFile conf(dir.filePath(u"fonts.conf"_s));
+        if (!conf.open(QIODevice::WriteOnly))
+            qFatal("no font configuration of our own");
+        conf.write(uR"(<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts/truetype/dejavu</dir>
+  <cachedir>%1/cache</cachedir>
+  <match target="scan">
+    <test name="file" compare="contains"><string>/DejaVuSansMono</string></test>
+    <edit name="family" mode="assign_replace"><string>Courier</string></edit>
+  </match>
+  <match target="scan">
+    <test name="file" compare="contains"><string>/DejaVuSansMono-Bold.ttf</string></test>
+    <edit name="foundry" mode="assign_replace"><string>urw</string></edit>
+  </match>
+  <alias><family>Palatino</family><prefer><family>DejaVu Sans</family></prefer></alias>
+</fontconfig>
+)"_s.arg(dir.path())
+                       .toUtf8());
+        conf.close();
+        qputenv("FONTCONFIG_FILE", conf.fileName().toLocal8Bit());
+    }
+
+private Q_SLOTS:
+    void familyInAnyFoundryButNoStandIn()
+    {
+        const QStringList families = QFontDatabase::families();
+        QVERIFY2(families.contains(u"Courier [urw]"_s) && families.contains(u"Courier [PfEd]"_s),
+                 qPrintable(families.join(u", "_s)));
+        platform::QtFonts fonts;
+        platform::install(&fonts);
+        QVERIFY(FontAvailable("Courier"));
+        QVERIFY(FontAvailable("DejaVu Sans"));
+        QVERIFY(!FontAvailable("Palatino"));
+        QVERIFY(!FontAvailable("DejaVu"));
+        platform::install(static_cast<platform::FontService *>(nullptr));
+    }
+
+    // Without a desktop the date is written as German does, which the head of the sheet shows.
+    void dateAndTimeOfTheEvening()
+    {
+        // Half a second before 1970 is in its last second of 1969, which Berlin calls 00:59:59.
+        QCOMPARE(QString::fromStdString(DateTime{-500}.ToString()), u"01.01.1970, 00:59:59"_s);
+        platform::QtDateFormat desktop;
+        platform::install(&desktop);
+        QLocale::setDefault(QLocale(u"en_US"_s));
+        QCOMPARE(QString::fromStdString(DateTime{FixedClock::Maerz2021}.ToString()), u"3/12/2021, 7:30:00 PM"_s);
+
+        // Every locale that Qt knows writes the year in full and the seconds, in its own digits, and
+        // leaves neither empty brackets nor a letter of a format that Qt does not read: the letters left
+        // are the locale's own words, its AM/PM, its month and the quoted text of its formats.
+        const DateTime moment{FixedClock::Maerz2021 + 47000};
+        static const QRegularExpression emptyBrackets(u"\\p{Ps}\\s*\\p{Pe}"_s), quoted(u"'([^']+)'"_s),
+            latin(u"[A-Za-z]"_s);
+        QStringList wrong;
+        for (const QLocale &locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+            QLocale::setDefault(locale);
+            const QString text = QString::fromStdString(moment.ToString());
+            QLocale digits = locale;
+            digits.setNumberOptions(QLocale::OmitGroupSeparator);
+            QStringList words{locale.amText(), locale.pmText(), locale.monthName(3, QLocale::ShortFormat)};
+            const QString formats = locale.dateFormat(QLocale::ShortFormat) + locale.timeFormat(QLocale::LongFormat);
+            for (auto it = quoted.globalMatch(formats); it.hasNext();)
+                words << it.next().captured(1);
+            // The longest first, so that "h" does not take a letter out of "horo".
+            std::sort(words.begin(), words.end(),
+                      [](const QString &a, const QString &b) { return a.size() > b.size(); });
+            QString rest = text;
+            for (const QString &word : std::as_const(words))
+                rest.remove(word, Qt::CaseInsensitive);
+            if (!text.contains(digits.toString(2021)) || !text.contains(digits.toString(47))
+                || text.contains(emptyBrackets) || rest.contains(latin) || text.contains(u"  "_s)
+                || text.trimmed() != text)
+                wrong << locale.name() + u": "_s + text;
+        }
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        platform::install(static_cast<platform::DateFormatService *>(nullptr));
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(QtServicesTest)
+#include "QtServicesTest.moc"
