@@ -40,7 +40,7 @@ quit)
     xdotool mousemove $((X + WIDTH - 97 * scale)) $((Y + HEIGHT - 30 * scale)) click 1
     ;;
 close)
-    python3 "$here/close_window.py" "$main"
+    /usr/bin/python3 "$here/close_window.py" "$main"
     ;;
 esac
 
