@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Stand-ins for the machine, installed by a test for as long as the object lives: a beep
-// counter, a message recorder, a font list of the test's choosing and a clock that stands
-// still.
+// counter, a font list of the test's choosing and a clock that stands still.
 #pragma once
 
 #include "platform/System.h"
@@ -11,45 +10,38 @@
 #include <string>
 #include <vector>
 
-class ScopedBeepCounter final : public platform::BeepService {
+// The platform's service of its kind for as long as it lives. install() is found in the service's
+// namespace, so that the print dialog's double, declared elsewhere, can use this too.
+template<typename Service>
+class Installed : public Service {
+protected:
+    Installed() { install(static_cast<Service *>(this)); }
+    ~Installed() override { install(static_cast<Service *>(nullptr)); }
+};
+
+class ScopedBeepCounter final : public Installed<platform::BeepService> {
 public:
-    ScopedBeepCounter() { platform::install(this); }
-    ~ScopedBeepCounter() override { platform::install(static_cast<platform::BeepService *>(nullptr)); }
     void beep() override { ++beeps; }
     int beeps = 0;
 };
 
-class ScopedMessageRecorder final : public platform::MessageService {
-public:
-    ScopedMessageRecorder() { platform::install(this); }
-    ~ScopedMessageRecorder() override { platform::install(static_cast<platform::MessageService *>(nullptr)); }
-    void show(std::string_view text) override { messages.emplace_back(text); }
-    std::vector<std::string> messages;
-};
-
-class ScopedFontList final : public platform::FontService {
+class ScopedFontList final : public Installed<platform::FontService> {
 public:
     explicit ScopedFontList(std::vector<std::string> names = {})
         : fonts(std::move(names))
-    {
-        platform::install(this);
-    }
-    ~ScopedFontList() override { platform::install(static_cast<platform::FontService *>(nullptr)); }
+    { }
     int count() override { return static_cast<int>(fonts.size()); }
     std::string at(int index) override { return fonts.at(static_cast<std::size_t>(index)); }
     std::vector<std::string> fonts;
 };
 
 // 12 March 2021, 19:30:00 in Berlin, unless the test sets another moment.
-class FixedClock final : public platform::ClockService {
+class FixedClock final : public Installed<platform::ClockService> {
 public:
     static constexpr std::int64_t Maerz2021 = 1615573800000;
     explicit FixedClock(std::int64_t ms = Maerz2021)
         : moment{ms}
-    {
-        platform::install(this);
-    }
-    ~FixedClock() override { platform::install(static_cast<platform::ClockService *>(nullptr)); }
+    { }
     DateTime now() override { return moment; }
     DateTime moment;
 };

@@ -5,21 +5,19 @@
 // into a PDF file or had cancelled, and such a file read back with poppler's tools.
 #pragma once
 
+#include "Doubles.h"
 #include "platform/PrintDialog.h"
 
 #include <QPrinter>
 #include <QProcess>
 #include <QStringList>
 
-class ScopedPrintDialog final : public platform::PrintDialogService {
+class ScopedPrintDialog final : public Installed<platform::PrintDialogService> {
 public:
     ScopedPrintDialog(bool print, QString pdfFile)
         : answer(print)
         , file(std::move(pdfFile))
-    {
-        platform::install(this);
-    }
-    ~ScopedPrintDialog() override { platform::install(static_cast<platform::PrintDialogService *>(nullptr)); }
+    { }
     bool exec(QPrinter &printer) override
     {
         ++opened;

@@ -10,7 +10,6 @@
 
 #include "view/Blatt.h"
 
-#include <QSet>
 #include <QStringList>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -52,34 +51,15 @@ struct SheetImage {
         return image;
     }
 
-    // "Family,size" of each font that the document's characters are drawn in.
-    static QSet<QString> fonts(const QTextDocument &document)
-    {
-        QSet<QString> fonts;
-        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-            for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QFont font = it.fragment().charFormat().font().resolve(document.defaultFont());
-                fonts.insert(font.toString().section(u',', 0, 1));
-            }
-        }
-        return fonts;
-    }
-
     QStringList lines() const
     {
-        QStringList lines;
-        qsizetype at = 0;
-        for (QStringView line : QStringView(text).split(QChar(CR))) {
-            QString written;
-            for (qsizetype i = 0; i < line.size(); ++i, ++at) {
-                if (i == 0 || style[at] != style[at - 1])
-                    written += styles[style[at]];
-                written += line[i];
-            }
-            lines << written;
-            ++at; // the CR
+        QString written;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            if (text[i] != QChar(CR) && (i == 0 || text[i - 1] == QChar(CR) || style[i] != style[i - 1]))
+                written += styles[style[i]];
+            written += text[i];
         }
-        return lines;
+        return written.split(QChar(CR));
     }
 
     // The first line in which what stands differs from what is expected, or nothing when they are equal.
