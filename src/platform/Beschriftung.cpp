@@ -15,24 +15,36 @@ constexpr char Beschriftet[] = "tafelkasse_beschriftet";
 
 using Bezug = QPair<QAccessibleInterface *, QAccessible::Relation>;
 
-class Knopf final : public QAccessibleWidget {
+// A control that a screen reader names by the text it shows, where no name of its own is set.
+template<typename Steuerelement>
+class Benannt : public QAccessibleWidget {
 public:
-    explicit Knopf(QPushButton *knopf)
-        : QAccessibleWidget(knopf, QAccessible::Button)
+    Benannt(Steuerelement *steuerelement, QAccessible::Role rolle)
+        : QAccessibleWidget(steuerelement, rolle)
     { }
 
     QString text(QAccessible::Text t) const override
     {
         QString text = QAccessibleWidget::text(t);
         if (t == QAccessible::Name && text.isEmpty())
-            text = knopf()->text();
+            text = steuerelement()->text();
         return text;
     }
+
+protected:
+    Steuerelement *steuerelement() const { return static_cast<Steuerelement *>(widget()); }
+};
+
+class Knopf final : public Benannt<QPushButton> {
+public:
+    explicit Knopf(QPushButton *knopf)
+        : Benannt(knopf, QAccessible::Button)
+    { }
 
     QList<Bezug> relations(QAccessible::Relation match) const override
     {
         QList<Bezug> bezuege = QAccessibleWidget::relations(match);
-        auto *label = knopf()->property(BeschriftetVon).value<QLabel *>();
+        auto *label = steuerelement()->property(BeschriftetVon).value<QLabel *>();
         if (match & QAccessible::Label && label)
             bezuege.append({QAccessible::queryAccessibleInterface(label), QAccessible::Label});
         return bezuege;
@@ -43,28 +55,17 @@ public:
     void doAction(const QString &action) override
     {
         if (action == pressAction())
-            knopf()->click();
+            steuerelement()->click();
         else
             QAccessibleWidget::doAction(action);
     }
-
-private:
-    QPushButton *knopf() const { return static_cast<QPushButton *>(widget()); }
 };
 
-class Schild final : public QAccessibleWidget {
+class Schild final : public Benannt<QLabel> {
 public:
     explicit Schild(QLabel *label)
-        : QAccessibleWidget(label, QAccessible::StaticText)
+        : Benannt(label, QAccessible::StaticText)
     { }
-
-    QString text(QAccessible::Text t) const override
-    {
-        QString text = QAccessibleWidget::text(t);
-        if (t == QAccessible::Name && text.isEmpty())
-            text = static_cast<QLabel *>(widget())->text();
-        return text;
-    }
 
     QList<Bezug> relations(QAccessible::Relation match) const override
     {
