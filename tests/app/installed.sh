@@ -66,4 +66,4 @@ appstreamcli validate --no-net "$work/root/usr/share/metainfo/$id.metainfo.xml"
 grep -q "^Icon=$id$" "$work/root/usr/share/applications/$id.desktop"
 grep -q '^Exec=tafelkasse$' "$work/root/usr/share/applications/$id.desktop"
 
-LC_ALL=$program_locale dbus-run-session -- "$here/start_and_quit.sh" "$program" "$work/installed.png" close
+LC_ALL=$program_locale "$here/start_and_quit.sh" "$program" "$work/installed.png" close
