@@ -26,6 +26,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The evening starts on 12 March 2021 at 19:30 in every run, so the head is always as long.
@@ -105,12 +107,12 @@ QString abweichung(const QTextDocument &dokument, const Blatt &blatt)
     for (const Lauf &lauf : laeufe(dokument))
         stileAnhaengen(gelesen, lauf.text, lauf.fett, lauf.kursiv);
     if (dokument.toPlainText().replace(u'\n', QChar(CR)) != qs(Volltext(blatt.Stuecke)))
-        return u"the text differs from the ledger's sheet"_qs;
+        return u"the text differs from the ledger's sheet"_s;
     if (gelesen != erwartet) {
         qsizetype i = 0;
         while (i < gelesen.size() && i < erwartet.size() && gelesen[i] == erwartet[i])
             ++i;
-        return u"the bold and italic runs differ from the ledger's sheet from character %1 on"_qs.arg(i);
+        return u"the bold and italic runs differ from the ledger's sheet from character %1 on"_s.arg(i);
     }
     return {};
 }
@@ -209,7 +211,7 @@ void BM_PrintPdf(benchmark::State &state)
     spieleEin(spiele);
     fenster->Event_Activated();
     const QTemporaryDir ordner;
-    const QString pfad = ordner.filePath(u"blatt.pdf"_qs);
+    const QString pfad = ordner.filePath(u"blatt.pdf"_s);
     int seiten = 0;
     for (auto _ : state) {
         {

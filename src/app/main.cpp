@@ -14,22 +14,24 @@
 #include <QLocale>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    QApplication::setApplicationName(u"Tafelkasse"_qs);
+    QApplication::setApplicationName(u"Tafelkasse"_s);
     QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
     // own picture on the window and in the task bar, whatever icon theme is installed.
-    QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_qs);
+    QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
     for (const int groesse : {16, 32, 48, 64, 128, 256})
-        symbol.addFile(u":/symbol/tafelkasse-%1.png"_qs.arg(groesse), QSize(groesse, groesse));
+        symbol.addFile(u":/symbol/tafelkasse-%1.png"_s.arg(groesse), QSize(groesse, groesse));
     QApplication::setWindowIcon(symbol);
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
     // dialog, the sheet's context menu) do too, where Qt's translations are installed.
     QTranslator qtTexte;
-    if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_qs, u"_"_qs,
+    if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_s, u"_"_s,
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&qtTexte);
     platform::QtServices dienste;

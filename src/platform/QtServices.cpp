@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 void QtBeep::beep()
@@ -63,12 +65,12 @@ namespace {
 // locale's own and stays as it is.
 QString BlattMuster(const QString &cldr)
 {
-    static const QRegularExpression jahr(u"y+"_qs), tageszeit(u"[Bb]+"_qs), zone(u"t+"_qs),
-        leereKlammern(u"[(\\[]\\s*[)\\]]"_qs), blanks(u" {2,}"_qs), raender(u"^[\\s,]+|[\\s,]+$"_qs);
+    static const QRegularExpression jahr(u"y+"_s), tageszeit(u"[Bb]+"_s), zone(u"t+"_s),
+        leereKlammern(u"[(\\[]\\s*[)\\]]"_s), blanks(u" {2,}"_s), raender(u"^[\\s,]+|[\\s,]+$"_s);
     QStringList teile = cldr.split(u'\'');
     for (qsizetype i = 0; i < teile.size(); i += 2) {
-        teile[i].replace(jahr, u"yyyy"_qs).replace(tageszeit, u"AP"_qs).remove(zone).remove(leereKlammern);
-        teile[i].replace(blanks, u" "_qs);
+        teile[i].replace(jahr, u"yyyy"_s).replace(tageszeit, u"AP"_s).remove(zone).remove(leereKlammern);
+        teile[i].replace(blanks, u" "_s);
     }
     return teile.join(u'\'').remove(raender);
 }
@@ -79,7 +81,7 @@ std::string QtDateFormat::format(DateTime moment)
 {
     const QLocale locale; // the user's, unless the program sets another
     // The short date and the long time, which has the seconds.
-    const QString muster = BlattMuster(locale.dateFormat(QLocale::ShortFormat)) + u", "_qs
+    const QString muster = BlattMuster(locale.dateFormat(QLocale::ShortFormat)) + u", "_s
         + BlattMuster(locale.timeFormat(QLocale::LongFormat));
     return utf8(locale.toString(QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch), muster));
 }

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int CanvasSeite = 46;
@@ -42,29 +44,29 @@ private:
 Achtung::Achtung(QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
     , Canvas1(new WarnSymbol(this))
-    , Abbruch(new QPushButton(u"Abbruch"_qs, this))
-    , OK(new QPushButton(u"OK"_qs, this))
+    , Abbruch(new QPushButton(u"Abbruch"_s, this))
+    , OK(new QPushButton(u"OK"_s, this))
     , StaticText1(
-          new QLabel(u"Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"_qs, this))
+          new QLabel(u"Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"_s, this))
 {
     Layout();
 }
 
 void Achtung::Layout()
 {
-    setObjectName(u"Achtung"_qs);
+    setObjectName(u"Achtung"_s);
     setWindowTitle(QString());
     setFixedSize(345, 160);
     setModal(true);
 
-    Canvas1->setObjectName(u"Canvas1"_qs);
+    Canvas1->setObjectName(u"Canvas1"_s);
     Canvas1->setGeometry(13, 31, CanvasSeite, CanvasSeite);
-    Canvas1->setAccessibleName(u"Warnung"_qs);
-    Abbruch->setObjectName(u"Abbruch"_qs);
+    Canvas1->setAccessibleName(u"Warnung"_s);
+    Abbruch->setObjectName(u"Abbruch"_s);
     Abbruch->setGeometry(59, 106, 74, 20);
-    OK->setObjectName(u"OK"_qs);
+    OK->setObjectName(u"OK"_s);
     OK->setGeometry(206, 106, 74, 20);
-    StaticText1->setObjectName(u"StaticText1"_qs);
+    StaticText1->setObjectName(u"StaticText1"_s);
     StaticText1->setGeometry(71, 31, 255, 53);
     StaticText1->setWordWrap(true);
     StaticText1->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -14,6 +14,8 @@
 #include <limits>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The player whose button is on: the first of players 1 to 3, else player 4.
@@ -38,25 +40,25 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
     , GroupBox1(new QGroupBox(this))
     , GroupBox2(new QGroupBox(this))
-    , OK(new QPushButton(u"OK"_qs, this))
-    , Cancel(new QPushButton(u"Abbruch"_qs, this))
+    , OK(new QPushButton(u"OK"_s, this))
+    , Cancel(new QPushButton(u"Abbruch"_s, this))
     , Label1(new QLabel(layout.label1Text, this))
 {
     setWindowTitle(layout.titel);
     setFixedSize(layout.groesse);
     setModal(true);
 
-    GroupBox1->setObjectName(u"GroupBox1"_qs);
+    GroupBox1->setObjectName(u"GroupBox1"_s);
     GroupBox1->setGeometry(layout.groupBox1);
-    GroupBox2->setObjectName(u"GroupBox2"_qs);
+    GroupBox2->setObjectName(u"GroupBox2"_s);
     GroupBox2->setGeometry(layout.groupBox2);
     for (int k = 0; k < 4; ++k) {
         const QString nummer = QString::number(k + 1);
-        Mahjongg[k] = new QRadioButton(u"Mah Jongg"_qs, GroupBox1);
-        Mahjongg[k]->setObjectName(u"Mahjongg_"_qs + nummer);
+        Mahjongg[k] = new QRadioButton(u"Mah Jongg"_s, GroupBox1);
+        Mahjongg[k]->setObjectName(u"Mahjongg_"_s + nummer);
         Mahjongg[k]->setGeometry(innerhalb(layout.mahjongg[k], layout.groupBox1));
-        Osten[k] = new QRadioButton(u"Osten"_qs, GroupBox2);
-        Osten[k]->setObjectName(u"Osten_"_qs + nummer);
+        Osten[k] = new QRadioButton(u"Osten"_s, GroupBox2);
+        Osten[k]->setObjectName(u"Osten_"_s + nummer);
         Osten[k]->setGeometry(innerhalb(layout.osten[k], layout.groupBox2));
     }
     Mahjongg[0]->setChecked(true);
@@ -69,17 +71,17 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
         Felder[k]->setMaxLength(std::numeric_limits<int>::max());
     }
     for (int k = 0; k < 4; ++k) {
-        Spieler[k] = new QLabel(u"Spieler %1:"_qs.arg(k + 1), this);
-        Spieler[k]->setObjectName(u"Spieler_"_qs + QString::number(k + 1));
+        Spieler[k] = new QLabel(u"Spieler %1:"_s.arg(k + 1), this);
+        Spieler[k]->setObjectName(u"Spieler_"_s + QString::number(k + 1));
         Spieler[k]->setGeometry(layout.spieler[k]);
     }
-    OK->setObjectName(u"OK"_qs);
+    OK->setObjectName(u"OK"_s);
     OK->setGeometry(layout.ok);
     // Return in a field means OK; on a focused button it presses that button.
     OK->setDefault(true);
-    Cancel->setObjectName(u"Cancel"_qs);
+    Cancel->setObjectName(u"Cancel"_s);
     Cancel->setGeometry(layout.cancel);
-    Label1->setObjectName(u"Label1"_qs);
+    Label1->setObjectName(u"Label1"_s);
     Label1->setGeometry(layout.label1);
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setWordWrap(true);
@@ -107,11 +109,11 @@ void ErgebnisFormular::Benennen()
 {
     // A screen reader announces a field and a radio button, whose text stands four times, by the
     // player beside it; the two groups by what they choose, as their columns do.
-    GroupBox1->setAccessibleName(u"Mah Jongg"_qs);
-    GroupBox2->setAccessibleName(u"Osten"_qs);
+    GroupBox1->setAccessibleName(u"Mah Jongg"_s);
+    GroupBox2->setAccessibleName(u"Osten"_s);
     for (int k = 0; k < 4; ++k) {
         const QString spieler = Spieler[k]->text() + u' ';
-        Felder[k]->setAccessibleName(spieler + u"Ergebnis"_qs);
+        Felder[k]->setAccessibleName(spieler + u"Ergebnis"_s);
         Mahjongg[k]->setAccessibleName(spieler + Mahjongg[k]->text());
         Osten[k]->setAccessibleName(spieler + Osten[k]->text());
     }

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Ergebnisse.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 FormularLayout platzierung()
 {
     return {
         {523, 334},
-        u" Ergebnisse eingeben: "_qs,
+        u" Ergebnisse eingeben: "_s,
         {256, 53, 142, 223},
         {406, 53, 104, 223},
         {{{278, 93, 107, 20}, {278, 141, 107, 20}, {278, 190, 107, 20}, {278, 238, 107, 20}}},
@@ -18,8 +20,8 @@ FormularLayout platzierung()
         {299, 302, 74, 20},
         {163, 302, 74, 20},
         {60, 20, 420, 28},
-        u"Bitte die Ergebnisse des letzten Spiels eingeben!"_qs,
-        u"Ergebnis"_qs,
+        u"Bitte die Ergebnisse des letzten Spiels eingeben!"_s,
+        u"Ergebnis"_s,
     };
 }
 
@@ -28,7 +30,7 @@ FormularLayout platzierung()
 Ergebnisse::Ergebnisse(QWidget *parent)
     : ErgebnisFormular(platzierung(), parent)
 {
-    setObjectName(u"Ergebnisse"_qs);
+    setObjectName(u"Ergebnisse"_s);
 }
 
 void Ergebnisse::OK_Pressed()

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Korrigieren.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 FormularLayout platzierung()
 {
     return {
         {519, 352},
-        u"Korrektur letzte Eingabe"_qs,
+        u"Korrektur letzte Eingabe"_s,
         {245, 59, 142, 223},
         {395, 59, 104, 223},
         {{{267, 99, 107, 20}, {267, 147, 107, 20}, {267, 196, 107, 20}, {267, 244, 107, 20}}},
@@ -18,8 +20,8 @@ FormularLayout platzierung()
         {282, 311, 74, 20},
         {146, 311, 74, 20},
         {20, 20, 479, 27},
-        u"Korrektur der letzten Eingabe:"_qs,
-        u"Korrektur"_qs,
+        u"Korrektur der letzten Eingabe:"_s,
+        u"Korrektur"_s,
     };
 }
 
@@ -28,7 +30,7 @@ FormularLayout platzierung()
 Korrigieren::Korrigieren(QWidget *parent)
     : ErgebnisFormular(platzierung(), parent)
 {
-    setObjectName(u"Korrigieren"_qs);
+    setObjectName(u"Korrigieren"_s);
 }
 
 void Korrigieren::OK_Pressed()

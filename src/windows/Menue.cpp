@@ -14,6 +14,8 @@
 #include <QTextCursor>
 #include <QTextEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QAction *Eintrag(QMenu *menu, const char *name, const QString &text, const QKeySequence &shortcut = {})
@@ -50,13 +52,13 @@ void AmTextFokus(Feld amFeld, Flaeche anDerFlaeche)
 
 Menue::Menue(Spielstand &fenster)
     : QMenuBar(&fenster)
-    , UntitledMenu3(new QMenu(u"&Ablage"_qs, this))
-    , UntitledMenu1(new QMenu(u"&Bearbeiten"_qs, this))
-    , UntitledMenu0(new QMenu(u"&Ergebnisse"_qs, this))
+    , UntitledMenu3(new QMenu(u"&Ablage"_s, this))
+    , UntitledMenu1(new QMenu(u"&Bearbeiten"_s, this))
+    , UntitledMenu0(new QMenu(u"&Ergebnisse"_s, this))
     , UntitledMenu5(new QMenu(this))
     , m_fenster(fenster)
 {
-    setObjectName(u"Menue"_qs);
+    setObjectName(u"Menue"_s);
     Untitled0();
     Untitled1();
     Untitled2();
@@ -70,46 +72,46 @@ Menue::Menue(Spielstand &fenster)
 
 void Menue::Untitled0()
 {
-    UntitledMenu3->setObjectName(u"UntitledMenu3"_qs);
+    UntitledMenu3->setObjectName(u"UntitledMenu3"_s);
     addMenu(UntitledMenu3);
-    AblageNeu = Eintrag(UntitledMenu3, "AblageNeu", u"Neu"_qs, QKeySequence(Qt::CTRL | Qt::Key_N));
-    AblageSpielstandsichern = Eintrag(UntitledMenu3, "AblageSpielstandsichern", u"Spielstand sichern"_qs,
+    AblageNeu = Eintrag(UntitledMenu3, "AblageNeu", u"Neu"_s, QKeySequence(Qt::CTRL | Qt::Key_N));
+    AblageSpielstandsichern = Eintrag(UntitledMenu3, "AblageSpielstandsichern", u"Spielstand sichern"_s,
                                       QKeySequence(Qt::CTRL | Qt::Key_S));
-    AblagePapierformat = Eintrag(UntitledMenu3, "AblagePapierformat", u"Papierformat"_qs);
-    AblageDrucken = Eintrag(UntitledMenu3, "AblageDrucken", u"Drucken"_qs, QKeySequence(Qt::CTRL | Qt::Key_P));
-    FileQuit = Eintrag(UntitledMenu3, "FileQuit", u"Beenden"_qs, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    AblagePapierformat = Eintrag(UntitledMenu3, "AblagePapierformat", u"Papierformat"_s);
+    AblageDrucken = Eintrag(UntitledMenu3, "AblageDrucken", u"Drucken"_s, QKeySequence(Qt::CTRL | Qt::Key_P));
+    FileQuit = Eintrag(UntitledMenu3, "FileQuit", u"Beenden"_s, QKeySequence(Qt::CTRL | Qt::Key_Q));
     FileQuit->setMenuRole(QAction::QuitRole);
 }
 
 void Menue::Untitled1()
 {
-    UntitledMenu1->setObjectName(u"UntitledMenu1"_qs);
+    UntitledMenu1->setObjectName(u"UntitledMenu1"_s);
     addMenu(UntitledMenu1);
-    EditUndo = Eintrag(UntitledMenu1, "EditUndo", u"Undo"_qs, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    EditUndo = Eintrag(UntitledMenu1, "EditUndo", u"Undo"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
     UntitledMenu2 = UntitledMenu1->addSeparator();
-    UntitledMenu2->setObjectName(u"UntitledMenu2"_qs);
-    EditCut = Eintrag(UntitledMenu1, "EditCut", u"Ausschneiden"_qs, QKeySequence(Qt::CTRL | Qt::Key_X));
-    EditCopy = Eintrag(UntitledMenu1, "EditCopy", u"Kopieren"_qs, QKeySequence(Qt::CTRL | Qt::Key_C));
-    EditPaste = Eintrag(UntitledMenu1, "EditPaste", u"Einfügen"_qs, QKeySequence(Qt::CTRL | Qt::Key_V));
-    EditClear = Eintrag(UntitledMenu1, "EditClear", u"Löschen"_qs);
+    UntitledMenu2->setObjectName(u"UntitledMenu2"_s);
+    EditCut = Eintrag(UntitledMenu1, "EditCut", u"Ausschneiden"_s, QKeySequence(Qt::CTRL | Qt::Key_X));
+    EditCopy = Eintrag(UntitledMenu1, "EditCopy", u"Kopieren"_s, QKeySequence(Qt::CTRL | Qt::Key_C));
+    EditPaste = Eintrag(UntitledMenu1, "EditPaste", u"Einfügen"_s, QKeySequence(Qt::CTRL | Qt::Key_V));
+    EditClear = Eintrag(UntitledMenu1, "EditClear", u"Löschen"_s);
 }
 
 void Menue::Untitled2()
 {
-    UntitledMenu0->setObjectName(u"UntitledMenu0"_qs);
+    UntitledMenu0->setObjectName(u"UntitledMenu0"_s);
     addMenu(UntitledMenu0);
-    ErgebnisseNamenderSpieler = Eintrag(UntitledMenu0, "ErgebnisseNamenderSpieler", u"Namen der Spieler  "_qs);
-    ErgebnisseErgebnisseeingeben = Eintrag(UntitledMenu0, "ErgebnisseErgebnisseeingeben", u"Ergebnisse eingeben "_qs,
+    ErgebnisseNamenderSpieler = Eintrag(UntitledMenu0, "ErgebnisseNamenderSpieler", u"Namen der Spieler  "_s);
+    ErgebnisseErgebnisseeingeben = Eintrag(UntitledMenu0, "ErgebnisseErgebnisseeingeben", u"Ergebnisse eingeben "_s,
                                            QKeySequence(Qt::CTRL | Qt::Key_E));
     ErgebnisseKorrekturletztesSpiel = Eintrag(UntitledMenu0, "ErgebnisseKorrekturletztesSpiel",
-                                              u"Korrektur letztes Spiel"_qs, QKeySequence(Qt::CTRL | Qt::Key_K));
-    AppleTafelkasse = Eintrag(UntitledMenu0, "AppleTafelkasse", u"Tafelkasse "_qs, QKeySequence(Qt::CTRL | Qt::Key_I));
+                                              u"Korrektur letztes Spiel"_s, QKeySequence(Qt::CTRL | Qt::Key_K));
+    AppleTafelkasse = Eintrag(UntitledMenu0, "AppleTafelkasse", u"Tafelkasse "_s, QKeySequence(Qt::CTRL | Qt::Key_I));
     AppleTafelkasse->setMenuRole(QAction::AboutRole);
 }
 
 void Menue::Untitled3()
 {
-    UntitledMenu5->setObjectName(u"UntitledMenu5"_qs);
+    UntitledMenu5->setObjectName(u"UntitledMenu5"_s);
     addMenu(UntitledMenu5);
 }
 

@@ -12,32 +12,34 @@
 #include <array>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 Namen::Namen(QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
-    , StaticText1(new QLabel(u"Spieler 1:"_qs, this))
-    , StaticText2(new QLabel(u"Spieler 2:"_qs, this))
-    , StaticText3(new QLabel(u"Spieler 3:"_qs, this))
-    , StaticText4(new QLabel(u"Spieler 4:"_qs, this))
+    , StaticText1(new QLabel(u"Spieler 1:"_s, this))
+    , StaticText2(new QLabel(u"Spieler 2:"_s, this))
+    , StaticText3(new QLabel(u"Spieler 3:"_s, this))
+    , StaticText4(new QLabel(u"Spieler 4:"_s, this))
     , Name_1(new QLineEdit(this))
     , Name_2(new QLineEdit(this))
     , Name_3(new QLineEdit(this))
     , Name_4(new QLineEdit(this))
-    , Abbruch_Name(new QPushButton(u"Abbruch"_qs, this))
-    , OK_Name(new QPushButton(u"OK"_qs, this))
+    , Abbruch_Name(new QPushButton(u"Abbruch"_s, this))
+    , OK_Name(new QPushButton(u"OK"_s, this))
     , Uebertrag_1(new QLineEdit(this))
     , Uebertrag_2(new QLineEdit(this))
     , Uebertrag_3(new QLineEdit(this))
     , Uebertrag_4(new QLineEdit(this))
-    , StaticText5(new QLabel(u"Namen:"_qs, this))
-    , StaticText6(new QLabel(u"ggfs. Übertrag:"_qs, this))
+    , StaticText5(new QLabel(u"Namen:"_s, this))
+    , StaticText6(new QLabel(u"ggfs. Übertrag:"_s, this))
 {
     Layout();
 }
 
 void Namen::Layout()
 {
-    setObjectName(u"Namen"_qs);
-    setWindowTitle(u"Namen der MitspielerInnen"_qs);
+    setObjectName(u"Namen"_s);
+    setWindowTitle(u"Namen der MitspielerInnen"_s);
     setFixedSize(333, 231);
     setModal(true);
 
@@ -46,22 +48,22 @@ void Namen::Layout()
         QString name;
         QRect geometrie;
     } controls[] = {
-        {StaticText1, u"StaticText1"_qs, {10, 55, 60, 16}},
-        {StaticText2, u"StaticText2"_qs, {10, 84, 60, 16}},
-        {StaticText3, u"StaticText3"_qs, {10, 113, 60, 16}},
-        {StaticText4, u"StaticText4"_qs, {10, 142, 60, 16}},
-        {Name_1, u"Name_1"_qs, {103, 52, 100, 22}},
-        {Name_2, u"Name_2"_qs, {103, 81, 100, 22}},
-        {Name_3, u"Name_3"_qs, {103, 110, 100, 22}},
-        {Name_4, u"Name_4"_qs, {103, 139, 100, 22}},
-        {Abbruch_Name, u"Abbruch_Name"_qs, {70, 189, 74, 20}},
-        {OK_Name, u"OK_Name"_qs, {209, 189, 74, 20}},
-        {Uebertrag_1, u"Übertrag_1"_qs, {231, 52, 80, 22}},
-        {Uebertrag_2, u"Übertrag_2"_qs, {231, 81, 80, 22}},
-        {Uebertrag_3, u"Übertrag_3"_qs, {231, 110, 80, 22}},
-        {Uebertrag_4, u"Übertrag_4"_qs, {231, 139, 80, 22}},
-        {StaticText5, u"StaticText5"_qs, {103, 25, 60, 16}},
-        {StaticText6, u"StaticText6"_qs, {211, 25, 100, 16}},
+        {StaticText1, u"StaticText1"_s, {10, 55, 60, 16}},
+        {StaticText2, u"StaticText2"_s, {10, 84, 60, 16}},
+        {StaticText3, u"StaticText3"_s, {10, 113, 60, 16}},
+        {StaticText4, u"StaticText4"_s, {10, 142, 60, 16}},
+        {Name_1, u"Name_1"_s, {103, 52, 100, 22}},
+        {Name_2, u"Name_2"_s, {103, 81, 100, 22}},
+        {Name_3, u"Name_3"_s, {103, 110, 100, 22}},
+        {Name_4, u"Name_4"_s, {103, 139, 100, 22}},
+        {Abbruch_Name, u"Abbruch_Name"_s, {70, 189, 74, 20}},
+        {OK_Name, u"OK_Name"_s, {209, 189, 74, 20}},
+        {Uebertrag_1, u"Übertrag_1"_s, {231, 52, 80, 22}},
+        {Uebertrag_2, u"Übertrag_2"_s, {231, 81, 80, 22}},
+        {Uebertrag_3, u"Übertrag_3"_s, {231, 110, 80, 22}},
+        {Uebertrag_4, u"Übertrag_4"_s, {231, 139, 80, 22}},
+        {StaticText5, u"StaticText5"_s, {103, 25, 60, 16}},
+        {StaticText6, u"StaticText6"_s, {211, 25, 100, 16}},
     };
     QWidget *vorher = nullptr;
     for (const auto &c : controls) {
@@ -85,8 +87,8 @@ void Namen::Layout()
         uebertraege{Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4};
     const std::array zeilen{StaticText1, StaticText2, StaticText3, StaticText4};
     for (std::size_t k = 0; k < 4; ++k) {
-        namen[k]->setAccessibleName(zeilen[k]->text() + u" Name"_qs);
-        uebertraege[k]->setAccessibleName(zeilen[k]->text() + u" Übertrag"_qs);
+        namen[k]->setAccessibleName(zeilen[k]->text() + u" Name"_s);
+        uebertraege[k]->setAccessibleName(zeilen[k]->text() + u" Übertrag"_s);
     }
 
     // Return in any field means OK; on a focused button it presses that button.

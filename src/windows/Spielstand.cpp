@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QTextEdit>
 
+using namespace Qt::StringLiterals;
 using namespace platform;
 
 namespace {
@@ -39,16 +40,16 @@ Spielstand::Spielstand(QWidget *parent)
                   Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                       | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint)
     , Anzeige(new QTextEdit)
-    , Ueber_Button(new QPushButton(u"Über…"_qs))
-    , Namen_Button(new QPushButton(u"Namen der Spieler"_qs))
-    , Ergebnisse_Button(new QPushButton(u"Ergebnisse eingeben"_qs))
-    , Korrektur_Button(new QPushButton(u"Ergebnisse korrigieren"_qs))
-    , PushButton5(new QPushButton(u"Quit"_qs))
-    , Neustart_Button(new QPushButton(u"Neustart"_qs))
-    , PushButton1(new QPushButton(u"größer"_qs))
-    , PushButton2(new QPushButton(u"Standard"_qs))
-    , PushButton6(new QPushButton(u"kleiner"_qs))
-    , Label1(new QLabel(u"Darstellung:"_qs))
+    , Ueber_Button(new QPushButton(u"Über…"_s))
+    , Namen_Button(new QPushButton(u"Namen der Spieler"_s))
+    , Ergebnisse_Button(new QPushButton(u"Ergebnisse eingeben"_s))
+    , Korrektur_Button(new QPushButton(u"Ergebnisse korrigieren"_s))
+    , PushButton5(new QPushButton(u"Quit"_s))
+    , Neustart_Button(new QPushButton(u"Neustart"_s))
+    , PushButton1(new QPushButton(u"größer"_s))
+    , PushButton2(new QPushButton(u"Standard"_s))
+    , PushButton6(new QPushButton(u"kleiner"_s))
+    , Label1(new QLabel(u"Darstellung:"_s))
 {
     Layout();
     Event_Opening();
@@ -58,8 +59,8 @@ void Spielstand::Layout()
 {
     // First, before the controls take their places: a screen reader may ask for them from then on.
     BeschrifteKnoepfe(Label1, {PushButton6, PushButton2, PushButton1});
-    setWindowTitle(u" Tafelkasse "_qs);
-    setObjectName(u"Spielstand"_qs);
+    setWindowTitle(u" Tafelkasse "_s);
+    setObjectName(u"Spielstand"_s);
     // The menu bar stands above the content, which keeps its first size of 896 by 616.
     m_menue = new Menue(*this);
     setMenuBar(m_menue);
@@ -109,7 +110,7 @@ void Spielstand::Layout()
 
     // The sheet can be read, selected and copied, never edited; it has no undo of its own,
     // so an "Undo" can never take a game off the sheet.
-    Anzeige->setAccessibleName(u"Spielstand"_qs);
+    Anzeige->setAccessibleName(u"Spielstand"_s);
     Anzeige->setReadOnly(true);
     Anzeige->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     Anzeige->setUndoRedoEnabled(false);
@@ -143,12 +144,12 @@ void Spielstand::Event_Opening()
 {
     Modul1.Tagesdatum = DateTime::Now();
     QFont schrift = Anzeige->font();
-    schrift.setFamily(FontAvailable("Courier") ? u"Courier"_qs : platform::fontFamily("System"));
+    schrift.setFamily(FontAvailable("Courier") ? u"Courier"_s : platform::fontFamily("System"));
     Anzeige->setFont(schrift);
     Textgroesse = static_cast<std::int64_t>(Anzeige->font().pointSizeF());
     for (int k = 1; k <= 4; ++k)
         Modul1.Spieler(k) = StandardName(k);
-    setWindowTitle(u"Tafelkasse Version x vom 16.11.2019"_qs);
+    setWindowTitle(u"Tafelkasse Version x vom 16.11.2019"_s);
     m_ueberschriften = StandardUeberschriften();
 }
 
@@ -256,7 +257,7 @@ void Spielstand::Drucken()
     // form that serves as a file name anywhere.
     const QDateTime beginn
         = QDateTime::fromMSecsSinceEpoch(Modul1.Tagesdatum.value_or(DateTime{}).millisecondsSinceEpoch);
-    printer.setDocName(u"Tafelkasse "_qs + beginn.date().toString(Qt::ISODate));
+    printer.setDocName(u"Tafelkasse "_s + beginn.date().toString(Qt::ISODate));
     printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
     if (OpenPrinterDialog(printer))
         DruckeBlatt(*Anzeige->document(), printer);

@@ -8,16 +8,18 @@
 #include <QLabel>
 #include <QMouseEvent>
 
+using namespace Qt::StringLiterals;
+
 UeberTafelkasse::UeberTafelkasse(QWidget *parent)
     : QWidget(parent,
               Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
                   | Qt::WindowMinimizeButtonHint)
-    , StaticText1(new QLabel(u"Tafelkasse"_qs, this))
+    , StaticText1(new QLabel(u"Tafelkasse"_s, this))
     , StaticText2(new QLabel(u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
                              u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
-                             u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_qs,
+                             u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
                              this))
-    , StaticText3(new QLabel(u"Freie Software der Tafelkasse-Entwickler"_qs, this))
+    , StaticText3(new QLabel(u"Freie Software der Tafelkasse-Entwickler"_s, this))
 {
     Layout();
     Event_Opening();
@@ -25,8 +27,8 @@ UeberTafelkasse::UeberTafelkasse(QWidget *parent)
 
 void UeberTafelkasse::Layout()
 {
-    setObjectName(u"UeberTafelkasse"_qs);
-    setWindowTitle(u"Tafelkasse"_qs);
+    setObjectName(u"UeberTafelkasse"_s);
+    setWindowTitle(u"Tafelkasse"_s);
     setFixedSize(429, 201);
     // The close box ends the window; the next "Über…" makes a new one.
     setAttribute(Qt::WA_DeleteOnClose);
@@ -43,9 +45,9 @@ void UeberTafelkasse::Layout()
         QRect geometrie;
         bool mehrzeilig;
     } labels[] = {
-        {StaticText1, u"StaticText1"_qs, {21, 20, 388, 48}, false},
-        {StaticText2, u"StaticText2"_qs, {21, 74, 384, 53}, true},
-        {StaticText3, u"StaticText3"_qs, {20, 149, 397, 25}, true},
+        {StaticText1, u"StaticText1"_s, {21, 20, 388, 48}, false},
+        {StaticText2, u"StaticText2"_s, {21, 74, 384, 53}, true},
+        {StaticText3, u"StaticText3"_s, {20, 149, 397, 25}, true},
     };
     for (const auto &l : labels) {
         l.label->setObjectName(l.name);

@@ -12,6 +12,8 @@
 #include <QProcess>
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 class ScopedPrintDialog final : public Installed<platform::PrintDialogService> {
 public:
     ScopedPrintDialog(bool print, QString pdfFile)
@@ -42,7 +44,7 @@ inline QString popplerOutput(const QString &tool, const QStringList &arguments)
 // The text of each page of a PDF, laid out as on paper.
 inline QStringList pdfPages(const QString &file)
 {
-    QStringList pages = popplerOutput(u"pdftotext"_qs, {u"-layout"_qs, file, u"-"_qs}).split(QChar('\f'));
+    QStringList pages = popplerOutput(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s}).split(QChar('\f'));
     pages.removeLast(); // pdftotext ends every page, the last one too, with a form feed
     return pages;
 }

@@ -17,8 +17,10 @@
 #include <algorithm>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 struct SheetImage {
-    static inline const QStringList styles{u"-|"_qs, u"b|"_qs, u"i|"_qs, u"bi|"_qs}; // by bold + 2 * italic
+    static inline const QStringList styles{u"-|"_s, u"b|"_s, u"i|"_s, u"bi|"_s}; // by bold + 2 * italic
     QString text;
     QByteArray style; // one per character of text
 
@@ -69,7 +71,7 @@ struct SheetImage {
             return {};
         const QStringList is = stands.lines(), shouldBe = expected.lines();
         const auto i = std::ranges::mismatch(is, shouldBe).in1 - is.begin();
-        return u"line %1: \"%2\", expected \"%3\""_qs.arg(QString::number(i + 1), is.value(i), shouldBe.value(i));
+        return u"line %1: \"%2\", expected \"%3\""_s.arg(QString::number(i + 1), is.value(i), shouldBe.value(i));
     }
 
     friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.text == b.text && a.style == b.style; }

@@ -28,6 +28,8 @@
 #include <QTest>
 #include <QTextEdit>
 
+using namespace Qt::StringLiterals;
+
 class SpielstandTest : public QObject {
     Q_OBJECT
 
@@ -101,15 +103,15 @@ class SpielstandTest : public QObject {
     {
         QSet<QString> found;
         for (QTextCursor c(window->Anzeige->document()); c.movePosition(QTextCursor::NextCharacter);)
-            found << u"%1 %2"_qs.arg(c.charFormat().font().family()).arg(c.charFormat().font().pointSizeF());
+            found << u"%1 %2"_s.arg(c.charFormat().font().family()).arg(c.charFormat().font().pointSizeF());
         return found;
     }
 
 private Q_SLOTS:
     void initTestCase()
     {
-        QCoreApplication::setApplicationName(u"Tafelkasse"_qs);
-        QCoreApplication::setApplicationVersion(u"9.8"_qs);
+        QCoreApplication::setApplicationName(u"Tafelkasse"_s);
+        QCoreApplication::setApplicationVersion(u"9.8"_s);
     }
 
     void init()
@@ -127,39 +129,39 @@ private Q_SLOTS:
         // The names open empty; an empty name field gives the player's default name back. A name may be
         // longer than a line edit's usual 32767 characters and than any line of the sheet.
         Modul1.Spieler1 = "Alt";
-        const QString longName = u"Großer Drache "_qs.repeated(3000);
+        const QString longName = u"Großer Drache "_s.repeated(3000);
         QStringList form;
         press("Namen_Button", [&](QWidget *d) {
             form = formOf(d);
             type(d, {"Name_2", "Bert", "Übertrag_1", "12", "Übertrag_4", "-3"});
-            child<QLineEdit>(d, u"Name_3"_qs)->insert(longName);
-            click(d, u"OK_Name"_qs);
+            child<QLineEdit>(d, u"Name_3"_s)->insert(longName);
+            click(d, u"OK_Name"_s);
         });
         QCOMPARE(form, QStringList(8, QString()));
-        QCOMPARE(standings(), (QStringList{"Spieler 1:  12", "Bert:  0", longName + u":  0"_qs, "Spieler 4:  -3"}));
+        QCOMPARE(standings(), (QStringList{"Spieler 1:  12", "Bert:  0", longName + u":  0"_s, "Spieler 4:  -3"}));
 
         // Return in a field is OK. A pasted score is read whole, beyond a line edit's usual 32767 characters.
         press("Ergebnisse_Button", [](QWidget *d) {
-            click(d, u"Mahjongg_3"_qs);
-            click(d, u"Osten_4"_qs);
-            child<QLineEdit>(d, u"Ergebnis1"_qs)->insert(QString(40000, u' ') + u"-7"_qs);
+            click(d, u"Mahjongg_3"_s);
+            click(d, u"Osten_4"_s);
+            child<QLineEdit>(d, u"Ergebnis1"_s)->insert(QString(40000, u' ') + u"-7"_s);
             type(d, {"Ergebnis2", "12"});
-            QTest::keyClick(child<QLineEdit>(d, u"Ergebnis2"_qs), Qt::Key_Return);
+            QTest::keyClick(child<QLineEdit>(d, u"Ergebnis2"_s), Qt::Key_Return);
         });
         QVERIFY(!button("Namen_Button")->isEnabled());
 
         // The entry opens empty on player 1 whatever the last game was. The edit items work in its
         // fields (the field after each is recorded), and Abbruch adds no game.
         press("Ergebnisse_Button", [&](QWidget *d) {
-            form = formOf(d) << child<QLabel>(d, u"Spieler_2"_qs)->text();
+            form = formOf(d) << child<QLabel>(d, u"Spieler_2"_s)->text();
             d->activateWindow(); // the items act in the active window; a desktop activates a dialog as it shows
             QVERIFY(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; }));
-            QLineEdit *field = child<QLineEdit>(d, u"Ergebnis1"_qs);
-            QTest::keyClicks(field, u"123"_qs);
+            QLineEdit *field = child<QLineEdit>(d, u"Ergebnis1"_s);
+            QTest::keyClicks(field, u"123"_s);
             field->selectAll();
             for (const char *name : {"EditCut", "EditUndo", "EditClear", "EditPaste", "EditPaste"})
                 item(name)->trigger(), form << field->text();
-            click(d, u"Cancel"_qs);
+            click(d, u"Cancel"_s);
         });
         QCOMPARE(form, (QStringList{"", "", "", "", "Mahjongg_1", "Osten_1", "Bert:", "", "123", "", "123", "123123"}));
 
@@ -175,11 +177,11 @@ private Q_SLOTS:
         // The restart beeps before it warns; OK keeps the names, clears the rest and dates the sheet anew.
         clock.moment = DateTime{FixedClock::Maerz2021 + 3'600'000};
         int beepsAtWarning = -1;
-        whenModal([&](QWidget *d) { beepsAtWarning = beeps.beeps, click(d, u"OK"_qs); });
+        whenModal([&](QWidget *d) { beepsAtWarning = beeps.beeps, click(d, u"OK"_s); });
         command(Qt::Key_N);
         QCOMPARE(beepsAtWarning, 1);
-        QCOMPARE(standings(), (QStringList{"Spieler 1:  0", "Bert:  0", longName + u":  0"_qs, "Spieler 4:  0"}));
-        QVERIFY(sheet().startsWith(u"Tafelkasse (Test-Version); 12.03.2021, 20:30:00\n"_qs));
+        QCOMPARE(standings(), (QStringList{"Spieler 1:  0", "Bert:  0", longName + u":  0"_s, "Spieler 4:  0"}));
+        QVERIFY(sheet().startsWith(u"Tafelkasse (Test-Version); 12.03.2021, 20:30:00\n"_s));
     }
 
     // Keyboard alone: Tab walks each form as it reads and enters a choice at its checked button,
@@ -220,7 +222,7 @@ private Q_SLOTS:
             menus << (menu ? menu->title() : QString());
             key(Qt::Key_Escape), key(Qt::Key_Escape);
         }
-        QCOMPARE(menus, (QStringList{u"&Ablage"_qs, u"&Bearbeiten"_qs}));
+        QCOMPARE(menus, (QStringList{u"&Ablage"_s, u"&Bearbeiten"_s}));
 
         QStringList paths;
         inDialog([&] { // a game won by player 3 with player 4 as East
@@ -236,7 +238,7 @@ private Q_SLOTS:
         });
         key(Qt::Key_E, Qt::ControlModifier);
         inDialog([&] { // the correction, typed over and left by Return on Abbruch
-            QTest::keyClicks(QApplication::focusWidget(), u"999"_qs);
+            QTest::keyClicks(QApplication::focusWidget(), u"999"_s);
             paths << walk(6);
             paths.last() += u' ' + walk(3, Qt::Key_Backtab);
             key(Qt::Key_Return);
@@ -245,9 +247,9 @@ private Q_SLOTS:
         key(Qt::Key_K, Qt::ControlModifier);
         QCOMPARE(
             paths,
-            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_qs,
-                         u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_qs, u"Ergebnis1 Osten_4 Osten_3"_qs,
-                         u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 Mahjongg_1 Cancel"_qs}));
+            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s,
+                         u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s, u"Ergebnis1 Osten_4 Osten_3"_s,
+                         u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 Mahjongg_1 Cancel"_s}));
         QCOMPARE(Modul1.Mahjongg[1] + '/' + Modul1.Osten[1], "Spieler 3/Spieler 4");
         QCOMPARE((QList<qint64>{Modul1.Spiel_Nr, Modul1.Ergebnis_1[1], Modul1.Ergebnis_4[1]}),
                  (QList<qint64>{1, 10, 40}));
@@ -260,7 +262,7 @@ private Q_SLOTS:
         QString opened;
         whenModal([&opened](QWidget *d) { opened = d->objectName(), QTest::keyClick(d, Qt::Key_Escape); });
         QTest::keyClick(about, Qt::Key_E, Qt::ControlModifier);
-        QCOMPARE(opened, u"Ergebnisse"_qs);
+        QCOMPARE(opened, u"Ergebnisse"_s);
 
         // The warning: Return on a focused Abbruch keeps the evening, Return as it opens restarts it.
         for (const bool tabbed : {true, false}) {
@@ -273,7 +275,7 @@ private Q_SLOTS:
             key(Qt::Key_N, Qt::ControlModifier);
             QCOMPARE(Modul1.Spiel_Nr, tabbed ? 1 : 0);
         }
-        QCOMPARE(paths.last(), u"Abbruch"_qs);
+        QCOMPARE(paths.last(), u"Abbruch"_s);
     }
 
     void controlsFollowTheirLocksWhenTheWindowGrows()
@@ -303,14 +305,14 @@ private Q_SLOTS:
         const QString system = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
         fonts.fonts = {"Courier New"};
         playGames(1);
-        QCOMPARE(sheetFonts(), QSet<QString>{system + u" 1"_qs});
+        QCOMPARE(sheetFonts(), QSet<QString>{system + u" 1"_s});
         window->Neustart();
-        QCOMPARE(sheetFonts(), QSet<QString>{u"Courier 1"_qs});
+        QCOMPARE(sheetFonts(), QSet<QString>{u"Courier 1"_s});
         button("PushButton2")->click();
-        QCOMPARE(sheetFonts(), QSet<QString>{u"Courier 12"_qs});
+        QCOMPARE(sheetFonts(), QSet<QString>{u"Courier 12"_s});
         window = std::make_unique<Spielstand>();
         window->Neustart();
-        QCOMPARE(sheetFonts(), QSet<QString>{system + u" 12"_qs});
+        QCOMPARE(sheetFonts(), QSet<QString>{system + u" 12"_s});
     }
 
     void aboutWindowHidesByAPressAndComesNewAfterItsCloseBox()
@@ -320,17 +322,17 @@ private Q_SLOTS:
         QPointer<UeberTafelkasse> about = window->findChild<UeberTafelkasse *>();
         QStringList shown{about->windowTitle()};
         for (const QLabel *label : about->findChildren<QLabel *>())
-            shown << label->text() << u"%1 %2"_qs.arg(label->font().family()).arg(label->font().pixelSize());
+            shown << label->text() << u"%1 %2"_s.arg(label->font().family()).arg(label->font().pixelSize());
         const QString system = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
         QCOMPARE(shown,
-                 (QStringList{u"Tafelkasse"_qs, u"Tafelkasse"_qs, system + u" 36"_qs,
+                 (QStringList{u"Tafelkasse"_s, u"Tafelkasse"_s, system + u" 36"_s,
                               u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
                               u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
-                              u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_qs,
-                              system + u" 12"_qs, shown[5], system + u" 12"_qs})); // the credit is ours
+                              u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
+                              system + u" 12"_s, shown[5], system + u" 12"_s})); // the credit is ours
 
         // A press hides it and "Über…" shows the same window; after the close box a new one.
-        QTest::mousePress(child<QLabel>(about, u"StaticText2"_qs), Qt::LeftButton);
+        QTest::mousePress(child<QLabel>(about, u"StaticText2"_s), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // a window that closed would go now
         QVERIFY(about && about->isHidden());
         button("Ueber_Button")->click();
@@ -348,13 +350,13 @@ private Q_SLOTS:
         for (const QAction *menu : window->menuBar()->actions()) {
             entries << QString(menu->text()).remove(u'&') + u':';
             for (const QAction *a : menu->menu()->actions())
-                entries << (a->isSeparator() ? u"-"_qs : a->text() + u'|' + a->shortcut().toString());
+                entries << (a->isSeparator() ? u"-"_s : a->text() + u'|' + a->shortcut().toString());
         }
         QCOMPARE(entries.join(u' '),
                  u"Ablage: Neu|Ctrl+N Spielstand sichern|Ctrl+S Papierformat| Drucken|Ctrl+P Beenden|Ctrl+Q "
                  u"Bearbeiten: Undo|Ctrl+Z - Ausschneiden|Ctrl+X Kopieren|Ctrl+C Einfügen|Ctrl+V Löschen| "
                  u"Ergebnisse: Namen der Spieler  | Ergebnisse eingeben |Ctrl+E Korrektur letztes Spiel|Ctrl+K "
-                 u"Tafelkasse |Ctrl+I :"_qs);
+                 u"Tafelkasse |Ctrl+I :"_s);
 
         // Pixels of the sheet in the colour of a selection: there are some only while the sheet has the focus.
         const auto selectionShown = [this] {
@@ -369,10 +371,10 @@ private Q_SLOTS:
             return false;
         };
         const QString text = sheet();
-        QTest::keyClicks(window->Anzeige, u"xyz"_qs);
+        QTest::keyClicks(window->Anzeige, u"xyz"_s);
         command(Qt::Key_A);
         QVERIFY(selectionShown());
-        QApplication::clipboard()->setText(u"vorher"_qs);
+        QApplication::clipboard()->setText(u"vorher"_s);
         command(Qt::Key_C); // typed into the sheet, it must reach it past the menu's shortcut
         QCOMPARE(QApplication::clipboard()->text(), text);
         for (const char *name : {"EditCut", "EditPaste", "EditClear", "EditUndo"})
@@ -388,19 +390,19 @@ private Q_SLOTS:
     void printingAsksFirstAndTheOtherFileItemsDoNothing()
     {
         const QStringList files = QDir::current().entryList(QDir::AllEntries | QDir::Hidden);
-        ScopedPrintDialog printing(false, u"abbruch.pdf"_qs);
+        ScopedPrintDialog printing(false, u"abbruch.pdf"_s);
         command(Qt::Key_P);
         QCOMPARE(dialogOpenedBy([this] { command(Qt::Key_S), item("AblagePapierformat")->trigger(); }), QString());
         QCOMPARE(QDir::current().entryList(QDir::AllEntries | QDir::Hidden), files); // nothing printed or saved
 
         QTemporaryDir dir;
         playGames(1);
-        printing.answer = true, printing.file = dir.filePath(u"druck.pdf"_qs);
+        printing.answer = true, printing.file = dir.filePath(u"druck.pdf"_s);
         item("AblageDrucken")->trigger();
-        QVERIFY(pdfPages(printing.file).value(0).contains(u"Spiel Nr. 1"_qs));
-        const QString info = popplerOutput(u"pdfinfo"_qs, {printing.file});
-        QVERIFY2(info.contains(QRegularExpression(u"Title: +Tafelkasse 2021-03-12\\n"_qs))
-                     && info.contains(QRegularExpression(u"Creator: +Tafelkasse 9\\.8\\n"_qs)),
+        QVERIFY(pdfPages(printing.file).value(0).contains(u"Spiel Nr. 1"_s));
+        const QString info = popplerOutput(u"pdfinfo"_s, {printing.file});
+        QVERIFY2(info.contains(QRegularExpression(u"Title: +Tafelkasse 2021-03-12\\n"_s))
+                     && info.contains(QRegularExpression(u"Creator: +Tafelkasse 9\\.8\\n"_s)),
                  qPrintable(info));
         QCOMPARE((QList<int>{beeps.beeps, printing.opened}), (QList<int>{0, 2})); // one dialog for each Drucken
     }

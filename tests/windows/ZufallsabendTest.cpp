@@ -22,6 +22,8 @@
 #include <optional>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 class ZufallsabendTest : public QObject {
     Q_OBJECT
 
@@ -58,10 +60,10 @@ class ZufallsabendTest : public QObject {
 
     QString randomText(bool name)
     {
-        static const QStringList kinds{u""_qs,           u"   "_qs,        u"12.9"_qs,  u"-3.7"_qs,
-                                       u"1e3"_qs,        u" -2.5E2xyz"_qs, u"1e400"_qs, u"-99999999999999999999"_qs,
-                                       u"abc"_qs,        u"+-5"_qs,        u".5"_qs,    u"9223372036854775807"_qs,
-                                       u"Mah 🀄 Jongg"_qs};
+        static const QStringList kinds{u""_s,           u"   "_s,        u"12.9"_s,  u"-3.7"_s,
+                                       u"1e3"_s,        u" -2.5E2xyz"_s, u"1e400"_s, u"-99999999999999999999"_s,
+                                       u"abc"_s,        u"+-5"_s,        u".5"_s,    u"9223372036854775807"_s,
+                                       u"Mah 🀄 Jongg"_s};
         switch (below(name ? 5 : 4)) {
         case 0:
             return kinds[below(int(kinds.size()))];
@@ -70,7 +72,7 @@ class ZufallsabendTest : public QObject {
         case 2:
             return QString::number(qint64(rng()));
         case 3: // a name longer than a line of the sheet, which wraps it; a score beyond 64 bits
-            return name ? u"Äöü ß "_qs.repeated(below(40)) : u"7"_qs.repeated(below(40));
+            return name ? u"Äöü ß "_s.repeated(below(40)) : u"7"_s.repeated(below(40));
         default:
             return QString::fromStdString(model.names[size_t(below(4))]); // an equal name
         }
@@ -80,7 +82,7 @@ class ZufallsabendTest : public QObject {
     void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item)
     {
         const int way = button ? below(key ? 3 : 2) : 1 + below(2);
-        log << what + QStringList{u" (button)"_qs, u" (menu)"_qs, u" (shortcut)"_qs}[way];
+        log << what + QStringList{u" (button)"_s, u" (menu)"_s, u" (shortcut)"_s}[way];
         if (way == 0) {
             QTest::mouseClick(button, Qt::LeftButton);
         } else if (way == 1) {
@@ -101,8 +103,8 @@ class ZufallsabendTest : public QObject {
                 type(edit, randomText(false));
             spiel.scores[size_t(k)] = ZahlAusText(edit->text().toStdString());
         }
-        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_qs.arg(spiel.winner + 1)), Qt::LeftButton);
-        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_qs.arg(spiel.east + 1)), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_s.arg(spiel.winner + 1)), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_s.arg(spiel.east + 1)), Qt::LeftButton);
         const bool ok = below(5) > 0;
         QTest::keyClick(dialog, ok ? Qt::Key_Return : Qt::Key_Escape);
         if (ok)
@@ -114,8 +116,8 @@ class ZufallsabendTest : public QObject {
         Modell next = model;
         for (int k = 0; k < 4; ++k) {
             const QString name = randomText(true), carry = randomText(false);
-            type(dialog->findChild<QLineEdit *>(u"Name_%1"_qs.arg(k + 1)), name);
-            type(dialog->findChild<QLineEdit *>(u"Übertrag_%1"_qs.arg(k + 1)), carry);
+            type(dialog->findChild<QLineEdit *>(u"Name_%1"_s.arg(k + 1)), name);
+            type(dialog->findChild<QLineEdit *>(u"Übertrag_%1"_s.arg(k + 1)), carry);
             next.names[size_t(k)] = name.isEmpty() ? StandardName(k + 1) : name.toStdString();
             next.carry[size_t(k)] = ZahlAusText(carry.toStdString());
         }
@@ -135,15 +137,15 @@ class ZufallsabendTest : public QObject {
         if (choice < 150) {
             if (n < 99)
                 expect([this](QWidget *d) { answerGame(d, "Ergebnis", false); });
-            command(w, u"Ergebnisse"_qs, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
+            command(w, u"Ergebnisse"_s, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
         } else if (choice < 190) {
             if (n > 0)
                 expect([this](QWidget *d) { answerGame(d, "Korrektur", true); });
-            command(w, u"Korrektur"_qs, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
+            command(w, u"Korrektur"_s, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
         } else if (choice < 215) {
             if (n == 0)
                 expect([this](QWidget *d) { answerNames(d); });
-            command(w, u"Namen"_qs, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
+            command(w, u"Namen"_s, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
         } else if (choice < 218) {
             const bool ok = below(2);
             if (n > 0) {
@@ -152,20 +154,20 @@ class ZufallsabendTest : public QObject {
                 if (ok)
                     model.games.clear(), model.carry = {};
             }
-            command(w, ok ? u"Neustart OK"_qs : u"Neustart Abbruch"_qs, w.Neustart_Button, Qt::Key_N, "AblageNeu");
+            command(w, ok ? u"Neustart OK"_s : u"Neustart Abbruch"_s, w.Neustart_Button, Qt::Key_N, "AblageNeu");
         } else if (choice < 280) {
             const int which = below(3); // größer, Standard, kleiner
-            log << QStringList{u"größer"_qs, u"Standard"_qs, u"kleiner"_qs}[which];
+            log << QStringList{u"größer"_s, u"Standard"_s, u"kleiner"_s}[which];
             QTest::mouseClick(QList{w.PushButton1, w.PushButton2, w.PushButton6}[which], Qt::LeftButton);
             if (which == 2 && model.size == 1)
                 ++model.beeps;
             else
                 model.size = which == 0 ? model.size + 1 : which == 1 ? 12 : model.size - 1;
         } else if (choice < 285) {
-            command(w, u"Drucken"_qs, nullptr, Qt::Key_P, "AblageDrucken"); // cancelled: nothing changes
+            command(w, u"Drucken"_s, nullptr, Qt::Key_P, "AblageDrucken"); // cancelled: nothing changes
         } else {
-            command(w, u"Über"_qs, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
-            QWidget *about = w.findChild<QWidget *>(u"UeberTafelkasse"_qs);
+            command(w, u"Über"_s, w.Ueber_Button, Qt::Key_I, "AppleTafelkasse");
+            QWidget *about = w.findChild<QWidget *>(u"UeberTafelkasse"_s);
             QVERIFY(about && about->isVisible());
             below(2) ? QTest::mouseClick(about, Qt::LeftButton) : void(about->close());
         }
@@ -178,10 +180,10 @@ class ZufallsabendTest : public QObject {
         const Abend &a = Modul1;
         const auto n = std::int64_t(model.games.size());
         if (a.Spiel_Nr != n)
-            return u"Spiel_Nr %1, expected %2"_qs.arg(a.Spiel_Nr).arg(n);
+            return u"Spiel_Nr %1, expected %2"_s.arg(a.Spiel_Nr).arg(n);
         for (int k = 1; k <= 4; ++k) {
             if (a.Spieler(k) != model.names[size_t(k - 1)] || a.Stand(k)[0] != model.carry[size_t(k - 1)])
-                return u"name or carry-over of player %1"_qs.arg(k);
+                return u"name or carry-over of player %1"_s.arg(k);
             for (std::int64_t i = 1; i <= n; ++i) {
                 const Spiel &s = model.games[size_t(i - 1)];
                 const auto r = size_t(i);
@@ -189,7 +191,7 @@ class ZufallsabendTest : public QObject {
                 if (a.Mahjongg[r] != model.names[size_t(s.winner)] || a.Osten[r] != model.names[size_t(s.east)]
                     || a.Ergebnis(k)[r] != s.scores[size_t(k - 1)] || u(1) + u(2) + u(3) + u(4) != 0
                     || std::uint64_t(a.Stand(k)[r]) != std::uint64_t(a.Stand(k)[r - 1]) + u(k))
-                    return u"game %1 of player %2: names, score, balance or the turnovers' sum of 0"_qs.arg(i).arg(k);
+                    return u"game %1 of player %2: names, score, balance or the turnovers' sum of 0"_s.arg(i).arg(k);
             }
         }
         // Names, new game, correction, restart: as buttons, then as menu items.
@@ -199,10 +201,10 @@ class ZufallsabendTest : public QObject {
                                  "ErgebnisseKorrekturletztesSpiel", "AblageNeu"})
             enabled << w.findChild<QAction *>(QLatin1String(name))->isEnabled();
         const QList<bool> expected{n == 0, (n < 99), n > 0, n > 0};
-        if (enabled != expected + expected || !w.findChild<QAction *>(u"AppleTafelkasse"_qs)->isEnabled())
-            return u"buttons or menu items at %1 games"_qs.arg(n);
+        if (enabled != expected + expected || !w.findChild<QAction *>(u"AppleTafelkasse"_s)->isEnabled())
+            return u"buttons or menu items at %1 games"_s.arg(n);
         if (beeps != model.beeps || w.Anzeige->font().pointSizeF() != model.size)
-            return u"%1 beeps at size %2, expected %3 at %4"_qs.arg(beeps)
+            return u"%1 beeps at size %2, expected %3 at %4"_s.arg(beeps)
                 .arg(w.Anzeige->font().pointSizeF())
                 .arg(model.beeps)
                 .arg(model.size);
@@ -238,17 +240,17 @@ private Q_SLOTS:
         int mostGames = 0;
         for (int i = 0; i < actions; ++i) {
             act(window);
-            const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_qs;
+            const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_s;
             mostGames = std::max(mostGames, int(model.games.size()));
             if (!problem.isEmpty()) {
-                const QString last = log.mid(std::max<qsizetype>(0, log.size() - 40)).join(u", "_qs);
-                QFAIL(qPrintable(u"seed %1, action %2: %3\nlast: %4"_qs.arg(seed).arg(i + 1).arg(problem, last)));
+                const QString last = log.mid(std::max<qsizetype>(0, log.size() - 40)).join(u", "_s);
+                QFAIL(qPrintable(u"seed %1, action %2: %3\nlast: %4"_s.arg(seed).arg(i + 1).arg(problem, last)));
             }
         }
         QVERIFY2(printing.opened > 0, "never printed");
         // The full ledger is where the guards matter; a run this long reaches it.
         if (actions >= 5000)
-            QVERIFY2(mostGames == 99, qPrintable(u"seed %1 never reached 99 games"_qs.arg(seed)));
+            QVERIFY2(mostGames == 99, qPrintable(u"seed %1 never reached 99 games"_s.arg(seed)));
     }
 };
 
