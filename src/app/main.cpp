@@ -35,10 +35,10 @@ int main(int argc, char *argv[])
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&qtTexte);
     platform::QtServices dienste;
-    platform::QtPrintDialog druckdialog;
-    platform::install(&druckdialog);
 
     Spielstand fenster;
+    platform::QtPrintDialog druckdialog(&fenster);
+    platform::install(&druckdialog);
     fenster.show();
     return QApplication::exec();
 }

@@ -20,7 +20,7 @@ void install(PrintDialogService *service)
 
 bool QtPrintDialog::exec(QPrinter &printer)
 {
-    QPrintDialog dialog(&printer);
+    QPrintDialog dialog(&printer, m_parent);
     // What the printing honours, and only that: a page range, copies and their collation, the
     // page order and the paper. The sheet has no selection and no current page to print.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange

@@ -9,6 +9,9 @@
 
 #include "System.h"
 
+#include <QPointer>
+#include <QWidget>
+
 class QPrinter;
 
 namespace platform {
@@ -23,11 +26,17 @@ public:
 // the default that cancels. The caller keeps the object alive while it is installed.
 void install(PrintDialogService *service);
 
-// The dialog of the desktop: Qt's print dialog, without a parent window, as the only
-// dialog that does not belong to the main window.
+// The dialog of the desktop: Qt's print dialog over the window that prints, so that the desktop
+// keeps the two together (on Wayland a dialog without a parent stands alone).
 class QtPrintDialog final : public PrintDialogService {
 public:
+    explicit QtPrintDialog(QWidget *parent)
+        : m_parent(parent)
+    { }
     bool exec(QPrinter &printer) override;
+
+private:
+    QPointer<QWidget> m_parent;
 };
 
 } // namespace platform

@@ -2,15 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Achtung.h"
 
+#include "Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+#ifdef TAFELKASSE_XCB
+#include <xcb/xcb.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +47,32 @@ private:
     }
 };
 
+// No heading at all: Qt gives a window without a title the program's name. On X11 the window's
+// names are taken off again before it is shown. On Wayland the compositor is told a title of
+// nothing visible, a zero-width space, for an empty one would become the program's name as well.
+void ohneUeberschrift(QWidget *fenster)
+{
+    if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
+        fenster->setWindowTitle(u"\u200B"_s);
+        return;
+    }
+#ifdef TAFELKASSE_XCB
+    auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11)
+        return;
+    xcb_connection_t *verbindung = x11->connection();
+    const auto id = static_cast<xcb_window_t>(fenster->winId());
+    const char netWmName[] = "_NET_WM_NAME";
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+        xcb_intern_atom_reply(verbindung, xcb_intern_atom(verbindung, 0, sizeof netWmName - 1, netWmName), nullptr),
+        &std::free);
+    xcb_delete_property(verbindung, id, XCB_ATOM_WM_NAME);
+    if (atom)
+        xcb_delete_property(verbindung, id, atom->atom);
+    xcb_flush(verbindung);
+#endif
+}
+
 } // namespace
 
 Achtung::Achtung(QWidget *parent)
@@ -56,7 +90,7 @@ void Achtung::Layout()
 {
     setObjectName(u"Achtung"_s);
     setWindowTitle(QString());
-    setFixedSize(345, 160);
+    FesteGroesse(this, {345, 160});
     setModal(true);
 
     Canvas1->setObjectName(u"Canvas1"_s);
@@ -70,6 +104,8 @@ void Achtung::Layout()
     StaticText1->setGeometry(71, 31, 255, 53);
     StaticText1->setWordWrap(true);
     StaticText1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    for (QWidget *control : std::initializer_list<QWidget *>{StaticText1, Abbruch, OK})
+        SchriftInPixeln(control, 12);
 
     setTabOrder(Abbruch, OK);
     // Return confirms, unless the user has moved the focus onto Abbruch: a focused button answers
@@ -77,6 +113,7 @@ void Achtung::Layout()
     OK->setDefault(true);
     // Without a title, a screen reader names the warning by its sentence.
     setAccessibleName(StaticText1->text());
+    ohneUeberschrift(this);
 
     connect(Abbruch, &QPushButton::clicked, this, &Achtung::Abbruch_Pressed);
     connect(OK, &QPushButton::clicked, this, &Achtung::OK_Pressed);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ErgebnisFormular.h"
 
+#include "Tabellenmass.h"
 #include "platform/QtText.h"
 
 #include <QGroupBox>
@@ -45,7 +46,7 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     , Label1(new QLabel(layout.label1Text, this))
 {
     setWindowTitle(layout.titel);
-    setFixedSize(layout.groesse);
+    FesteGroesse(this, layout.groesse);
     setModal(true);
 
     GroupBox1->setObjectName(u"GroupBox1"_s);
@@ -85,6 +86,12 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     Label1->setGeometry(layout.label1);
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setWordWrap(true);
+    // The request above the rows has the system's size; everything else the table's 12.
+    for (QWidget *control : findChildren<QWidget *>()) {
+        if (control != Label1)
+            SchriftInPixeln(control, 12);
+    }
+    SchriftDesDesktops(Label1);
 
     // Tab order as the form reads: the two button groups, the scores from the top, OK, Abbruch.
     const std::vector<QWidget *> reihe = Tabfolge();

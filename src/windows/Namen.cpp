@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Namen.h"
 
+#include "Tabellenmass.h"
 #include "ledger/Eingabe.h"
 #include "platform/QtText.h"
 
@@ -40,7 +41,7 @@ void Namen::Layout()
 {
     setObjectName(u"Namen"_s);
     setWindowTitle(u"Namen der MitspielerInnen"_s);
-    setFixedSize(333, 231);
+    FesteGroesse(this, {333, 231});
     setModal(true);
 
     const struct {
@@ -69,6 +70,7 @@ void Namen::Layout()
     for (const auto &c : controls) {
         c.control->setObjectName(c.name);
         c.control->setGeometry(c.geometrie);
+        SchriftInPixeln(c.control, 12);
         // The tab order is the order of creation: down the names, over the two buttons,
         // down the carry-overs. Labels take no focus.
         if (c.control->focusPolicy() != Qt::NoFocus) {

@@ -7,6 +7,7 @@
 #include "Korrigieren.h"
 #include "Menue.h"
 #include "Namen.h"
+#include "Tabellenmass.h"
 #include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
@@ -104,6 +105,11 @@ void Spielstand::Layout()
     QFont fett = PushButton5->font();
     fett.setBold(true);
     PushButton5->setFont(fett);
+    // The buttons and the label have the system's size, as far as their boxes hold it.
+    for (const auto &c : controls) {
+        if (c.control != Anzeige)
+            SchriftDesDesktops(c.control);
+    }
     // A button that has the keyboard focus answers Return as it answers Space.
     for (QPushButton *knopf : findChildren<QPushButton *>())
         knopf->setAutoDefault(true);
@@ -236,6 +242,9 @@ void Spielstand::UeberZeigen()
 {
     if (!m_ueber)
         m_ueber = new UeberTafelkasse(this);
+    // A minimized window stays minimized through show(), which does nothing to a window that is
+    // still "visible": it is brought back first.
+    m_ueber->setWindowState(m_ueber->windowState() & ~Qt::WindowMinimized);
     m_ueber->show();
     m_ueber->raise();
     m_ueber->activateWindow();

@@ -2,13 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "UeberTafelkasse.h"
 
+#include "Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
 
+#include <QAccessibleWidget>
 #include <QLabel>
 #include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A screen reader announces the window as a window, by its title: a bare QWidget would be a
+// nameless "filler" to it.
+QAccessibleInterface *alsFenster(const QString &klasse, QObject *object)
+{
+    if (klasse == QLatin1String(UeberTafelkasse::staticMetaObject.className()))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Window);
+    return nullptr;
+}
+
+} // namespace
 
 UeberTafelkasse::UeberTafelkasse(QWidget *parent)
     : QWidget(parent,
@@ -21,6 +36,7 @@ UeberTafelkasse::UeberTafelkasse(QWidget *parent)
                              this))
     , StaticText3(new QLabel(u"Freie Software der Tafelkasse-Entwickler"_s, this))
 {
+    QAccessible::installFactory(alsFenster);
     Layout();
     Event_Opening();
 }
@@ -29,7 +45,7 @@ void UeberTafelkasse::Layout()
 {
     setObjectName(u"UeberTafelkasse"_s);
     setWindowTitle(u"Tafelkasse"_s);
-    setFixedSize(429, 201);
+    FesteGroesse(this, {429, 201});
     // The close box ends the window; the next "Über…" makes a new one.
     setAttribute(Qt::WA_DeleteOnClose);
 
@@ -83,6 +99,16 @@ void UeberTafelkasse::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
     Event_MouseDown();
+}
+
+void UeberTafelkasse::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+        Event_MouseDown();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void UeberTafelkasse::Event_MouseDown()

@@ -3,7 +3,8 @@
 //
 // The about window: what the program is, in three centred lines on light grey. It stands
 // beside the main window without blocking it. A mouse press anywhere on it only hides it,
-// so the next "Über…" brings back the same window; its close box ends it for good.
+// so the next "Über…" brings back the same window; its close box ends it for good. Esc dismisses it
+// as a click does.
 #pragma once
 
 #include <QWidget>
@@ -22,6 +23,7 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void Layout();
