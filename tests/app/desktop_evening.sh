@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Plays an evening on a desktop of its own with the program under strace and its accessibility
-# on, as when a screen reader runs. On the way, the main window, the results dialog and the
-# restart warning are read through the accessibility bus (screen_reader.py). At the end it fails
+# on, as when a screen reader runs. On the way, the main window, the results dialog, the about
+# window and the restart warning are read through the accessibility bus (screen_reader.py). At the end it fails
 # if the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts
 # and the runtime directory are not the program's own and are left out. The session bus, the
 # accessibility bus and the X server are not the program either: they run outside the trace.
@@ -43,10 +43,11 @@ done
 keys '^Tafelkasse Version' ctrl+k
 keys_and_gone '^Korrektur letzte Eingabe$' 4 Return
 # The text size, the about window (a click anywhere hides it), printing cancelled, then the
-# restart confirmed; the confirmation has no title, so it goes by the program's name too.
+# restart confirmed; the confirmation has no title, so it goes by an empty name.
 xdotool mousemove $((X + 326)) $((top + 586)) click 1 click 1
 keys '^Tafelkasse Version' ctrl+i
 about=$(window '^Tafelkasse$')
+reader about
 eval "$(xdotool getwindowgeometry --shell "$about" | sed 's/^/ABOUT_/')"
 xdotool mousemove $((ABOUT_X + 20)) $((ABOUT_Y + 20)) click 1
 gone '^Tafelkasse$'
@@ -54,7 +55,7 @@ keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
 reader warning
-keys_and_gone '^Tafelkasse$' Return
+keys_and_gone '^$' Return
 keys '^Tafelkasse Version' ctrl+q
 
 ended_well $pid

@@ -52,8 +52,8 @@ until_true() { # what is awaited, command...
     done
 }
 
-# The program's visible windows whose titles match, one id a line. A window without a title
-# of its own is shown with the program's name, "Tafelkasse".
+# The program's visible windows whose titles match, one id a line; a window without a title has
+# an empty one.
 visible() { # title as an extended regular expression
     local w
     for w in $(xdotool search --onlyvisible --classname '^tafelkasse$' 2>/dev/null); do

@@ -3,17 +3,18 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # What a screen reader learns of one window of the running program, read through the
-# accessibility bus as Orca reads it: every control that takes the keyboard has a name, and the
-# names and ties that tell alike controls apart are there. Waits for the window to appear on the
-# bus; prints what is wrong and fails.
-# Usage: screen_reader.py main|warning, or screen_reader.py results PLAYER1 PLAYER2 PLAYER3 PLAYER4
+# accessibility bus as Orca reads it: every control that takes the keyboard has a name, the
+# names and ties that tell alike controls apart are there, and a window is announced as one.
+# Waits for the window to appear on the bus; prints what is wrong and fails.
+# Usage: screen_reader.py main|warning|about, or screen_reader.py results PLAYER1 PLAYER2 PLAYER3 PLAYER4
 import sys
 import time
 
 import pyatspi
 
 WARNING = "Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"
-TITLES = {"main": "Tafelkasse Version x vom 16.11.2019", "results": " Ergebnisse eingeben: ", "warning": WARNING}
+TITLES = {"main": "Tafelkasse Version x vom 16.11.2019", "results": " Ergebnisse eingeben: ", "warning": WARNING,
+          "about": "Tafelkasse"}
 
 
 def find_window(title, seconds=60):
@@ -46,6 +47,8 @@ def check(which, players):
     by_role = lambda role: [n for n in nodes if n.getRole() == role]
     problems = [f"{n.getRoleName()} without a name" for n in nodes
                 if n.getState().contains(pyatspi.STATE_FOCUSABLE) and not n.name.strip()]
+    if window.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_DIALOG, pyatspi.ROLE_WINDOW):
+        problems.append(f"the window is announced as a {window.getRoleName()}")
     if which == "main":
         sizes = ["größer", "kleiner", "Standard"]
         label = [n for n in by_role(pyatspi.ROLE_LABEL) if n.name == "Darstellung:"]

@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Tafelkasse developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# The program on Wayland, in weston nested in an X server (weston's headless backend has no seat
+# to type with). Every window, the print dialog included, is maximized and made fullscreen by the
+# compositor's own keys and put back, while an evening is played; then the evening must be
+# intact and Ctrl+Q end the program with exit code 0. Once with the platform forced, once chosen
+# by Qt itself in a Wayland session. The accessibility bus tells which windows are shown and how
+# wide, since no X server sees them.
+# Usage: wayland.sh PROGRAM
+set -euo pipefail
+program=$1
+here=$(cd "$(dirname "$0")" && pwd)
+source "$here/drive.sh"
+own_desktop 1280x1000x24 "$0" "$@"
+
+printf '[core]\nidle-time=0\n[shell]\nlocking=false\npanel-position=none\n' >"$HOME/weston.ini"
+weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse --width=1200 --height=900 \
+    >"$HOME/weston.log" 2>&1 &
+compositor=$!
+trap 'kill $compositor 2>/dev/null || true' EXIT
+until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse" || { cat "$HOME/weston.log"; exit 1; }
+until_true "the compositor's window" xdotool search --class weston
+timeout "$wait_limit" xdotool windowfocus --sync "$(xdotool search --class weston | head -n 1)"
+
+bus() { /usr/bin/python3 "$here/on_bus.py" "$@"; }
+# Keys go to weston, which hands them to its focused window.
+press() { xdotool key --delay 30 "$@"; }
+
+# Maximized, back, fullscreen, back: each time waiting until the window has taken the size of the
+# compositor's 1200 by 900 output (less its title bar when maximized).
+grow_and_back() { # window name
+    press super+shift+m
+    bus active "$1" 1100
+    press super+shift+m super+shift+f
+    bus active "$1" 1200
+    press super+shift+f
+    bus active "$1" 0 1099
+}
+
+WARNING="Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"
+for platform in wayland chosen; do
+    echo "platform: $platform"
+    forced=()
+    [ "$platform" = chosen ] || forced=(QT_QPA_PLATFORM=wayland)
+    env "${forced[@]}" XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=tafelkasse QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
+        "$program" 2>"$HOME/program.log" &
+    pid=$!
+    main="Tafelkasse Version x vom 16.11.2019"
+    bus active "$main"
+    grow_and_back "$main"
+    press alt+e Return
+    bus active "Namen der MitspielerInnen"
+    grow_and_back "Namen der MitspielerInnen"
+    press A n n a Return
+    bus gone "Namen der MitspielerInnen"
+    bus active "$main"
+    for dialog in " Ergebnisse eingeben: /ctrl+e/1 0 Return" "Korrektur letzte Eingabe/ctrl+k/Return" \
+        "Tafelkasse/ctrl+i/Escape" "Drucken/ctrl+p/Escape" "$WARNING/ctrl+n/Escape"; do
+        IFS=/ read -r name open close <<<"$dialog"
+        press "$open"
+        bus active "$name"
+        grow_and_back "$name"
+        # shellcheck disable=SC2086 # the keys that close it, one word each
+        press $close
+        bus gone "$name"
+        bus active "$main"
+    done
+    bus sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
+    press ctrl+q
+    ended_well $pid || { cat "$HOME/program.log"; exit 1; }
+done
