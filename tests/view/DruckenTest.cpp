@@ -4,17 +4,25 @@
 // The printout, printed into PDF files and read back with pdftotext: each word of the sheet on its
 // page, line and column, with the lines wrapped at the block width and the pages filled with whole
 // lines, the block standing at the page's corner, and the bold and italic cuts of the font; and the
-// page range, copies and page order of the print dialog, as pages taken from the full printout.
+// page range, copies and page order of the print dialog, as pages taken from the full printout. The
+// sheet's characters as written, on screen and on paper, in a font with ligatures that the test
+// brings in a font configuration of its own.
 #include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
+#include <QGlyphRun>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +43,33 @@ Q_DECLARE_METATYPE(Choice)
 class DruckenTest : public QObject {
     Q_OBJECT
     QTemporaryDir dir;
+
+public:
+    // Qt's font database reads the configuration when the application starts: the machine's DejaVu
+    // fonts, and URW's Nimbus Mono, whose ligatures join "Nr." into "№" and "fi" into one sign, under
+    // the sheet's name "Courier".
+    static void initMain()
+    {
+        static const QTemporaryDir fonts;
+        QFile conf(fonts.filePath(u"fonts.conf"_s));
+        if (!conf.open(QIODevice::WriteOnly))
+            qFatal("no font configuration of our own");
+        conf.write(uR"(<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts/truetype/dejavu</dir>
+  <dir>/usr/share/fonts/opentype/urw-base35</dir>
+  <cachedir>%1/cache</cachedir>
+  <match target="scan">
+    <test name="file" compare="contains"><string>/NimbusMonoPS-</string></test>
+    <edit name="family" mode="assign_replace"><string>Courier</string></edit>
+  </match>
+</fontconfig>
+)"_s.arg(fonts.path())
+                       .toUtf8());
+        conf.close();
+        qputenv("FONTCONFIG_FILE", conf.fileName().toLocal8Bit());
+    }
 
     // Prints the document into a PDF file as chosen, and reads each page's words back in the order
     // in which they were drawn.
@@ -64,6 +99,51 @@ class DruckenTest : public QObject {
     }
 
 private Q_SLOTS:
+    // On screen every character of a Latin line is one glyph of its own, and a name in Arabic keeps
+    // the joined forms that its script needs; on paper the text reads back as written.
+    void charactersAsWritten()
+    {
+        Abend abend;
+        Namen_OK(abend, {{"Fifi", "محمد", "", ""}, {}});
+        Ergebnisse_OK(abend, {{"10", "20", "30", "40"}, 1, 2});
+        const Blatt blatt = Dokument(abend, StandardUeberschriften(), "Courier", "12.03.2021, 19:30:00");
+        QTextDocument document;
+        SchreibeStuecke(document, blatt.Stuecke, blatt.Schrift);
+        document.documentLayout()->documentSize();
+        const auto glyphs = [](const QTextLayout &layout) {
+            QList<quint32> ids;
+            for (int i = 0; i < layout.lineCount(); ++i) {
+                for (const QGlyphRun &run : layout.lineAt(i).glyphRuns())
+                    ids += run.glyphIndexes();
+            }
+            std::sort(ids.begin(), ids.end());
+            return ids;
+        };
+        int arabic = 0;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            if (block.text().contains(u"محمد"_s)) {
+                // The same line, laid out in its font with all the shaping the font has.
+                QFont font = block.begin().fragment().charFormat().font();
+                font.setStyleStrategy(QFont::PreferDefault);
+                QTextLayout shaped(block.text(), font);
+                shaped.beginLayout();
+                shaped.createLine();
+                shaped.endLayout();
+                QCOMPARE(glyphs(*block.layout()), glyphs(shaped));
+                ++arabic;
+            } else {
+                QVERIFY2(glyphs(*block.layout()).size() == block.text().size(), qPrintable(block.text()));
+            }
+        }
+        QCOMPARE(arabic, 3);
+
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(dir.filePath(u"as written.pdf"_s));
+        DruckeBlatt(document, printer);
+        const QString paper = pdfPages(printer.outputFileName()).join(u'\n');
+        QVERIFY2(paper.contains(u"Spiel Nr. 1"_s) && paper.contains(u"Fifi:  0"_s), qPrintable(paper));
+    }
+
     void wordsStandWhereWholeLinesAndPagesPutThem_data()
     {
         QTest::addColumn<Choice>("choice");
