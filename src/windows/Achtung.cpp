@@ -57,10 +57,11 @@ void ohneUeberschrift(QWidget *fenster)
         return;
     }
 #ifdef TAFELKASSE_XCB
+    // Only an X11 desktop has the names; the offscreen platform answers as X11 too, without a connection.
     auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    xcb_connection_t *verbindung = x11 && QGuiApplication::platformName() == u"xcb"_s ? x11->connection() : nullptr;
+    if (!verbindung)
         return;
-    xcb_connection_t *verbindung = x11->connection();
     const auto id = static_cast<xcb_window_t>(fenster->winId());
     const char netWmName[] = "_NET_WM_NAME";
     const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
