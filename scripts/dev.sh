@@ -14,7 +14,7 @@ top=$(pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libxcb1-dev)
-packages_test=(xvfb xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi python3-xlib imagemagick poppler-utils fonts-dejavu-core python3 strace dbus-daemon
+packages_test=(xvfb xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi imagemagick poppler-utils fonts-dejavu-core fonts-urw-base35 python3 strace dbus-daemon
     desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
     build-essential debhelper lintian devscripts blhc)
 packages_analysis=(clang-tidy-14 clazy)

@@ -5,8 +5,12 @@
 # What a screen reader learns of one window of the running program, read through the
 # accessibility bus as Orca reads it: every control that takes the keyboard has a name, the
 # names and ties that tell alike controls apart are there, and a window is announced as one.
-# Waits for the window to appear on the bus; prints what is wrong and fails.
-# Usage: screen_reader.py main|warning|about, or screen_reader.py results PLAYER1 PLAYER2 PLAYER3 PLAYER4
+# Waits for the window to appear on the bus; prints what is wrong and fails. Where no X server
+# shows the windows (on Wayland), the bus also tells which are shown, have the keyboard and how wide,
+# and what the sheet says: "active" waits for a window that is at least (and at most) that wide,
+# "gone" until none of the name is shown, "sheet" until the sheet holds the text.
+# Usage: screen_reader.py main|warning|about, or screen_reader.py results PLAYER1 PLAYER2 PLAYER3 PLAYER4,
+# or screen_reader.py active NAME [MIN_WIDTH [MAX_WIDTH]] | gone NAME | sheet TEXT
 import sys
 import time
 
@@ -17,17 +21,35 @@ TITLES = {"main": "Tafelkasse Version x vom 16.11.2019", "results": " Ergebnisse
           "about": "Tafelkasse"}
 
 
-def find_window(title, seconds=60):
-    deadline = time.monotonic() + seconds
-    while time.monotonic() < deadline:
-        desktop = pyatspi.Registry.getDesktop(0)
-        for app in filter(None, desktop):
-            if app.name == "Tafelkasse":
-                for window in filter(None, app):
-                    if window.name == title:
-                        return window
-        time.sleep(0.2)
-    sys.exit(f"no window named {title!r} on the accessibility bus")
+def windows():
+    for app in filter(None, pyatspi.Registry.getDesktop(0)):
+        if app.name == "Tafelkasse":
+            yield from filter(None, app)
+
+
+def wait_for(what, test):
+    deadline = time.monotonic() + 60
+    while not (found := test()):
+        if time.monotonic() > deadline:
+            shown = [(w.name, width(w)) for w in windows() if w.getState().contains(pyatspi.STATE_SHOWING)]
+            sys.exit(f"waited 60 s in vain for {what}; shown: {shown}")
+        time.sleep(0.1)
+    return found
+
+
+def find_window(title):
+    return wait_for(f"a window named {title!r}", lambda: next((w for w in windows() if w.name == title), None))
+
+
+def width(window):
+    return window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).width
+
+
+def sheet_text():
+    for window in windows():
+        for node in pyatspi.findAllDescendants(window, lambda n: n.name == "Spielstand"):
+            return node.queryText().getText(0, -1).replace("\u2029", "\n")
+    return ""
 
 
 def below(node):
@@ -67,7 +89,17 @@ def check(which, players):
     return problems
 
 
-problems = check(sys.argv[1], sys.argv[2:])
+which, args = sys.argv[1], sys.argv[2:]
+if which in ("active", "gone", "sheet"):
+    least, most = [int(n) for n in args[1:]] + [0, 10**6][len(args[1:]):]
+    shown = lambda w: w.getState().contains(pyatspi.STATE_SHOWING)
+    wait_for(f"{which} {args}", {
+        "active": lambda: any(shown(w) and w.name == args[0] and w.getState().contains(pyatspi.STATE_ACTIVE)
+                              and least <= width(w) <= most for w in windows()),
+        "gone": lambda: not any(shown(w) and w.name == args[0] for w in windows()),
+        "sheet": lambda: args[0] in sheet_text()}[which])
+    sys.exit(0)
+problems = check(which, args)
 for problem in problems:
     print(f"{sys.argv[1]}: {problem}")
 sys.exit(1 if problems else 0)

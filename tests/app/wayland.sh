@@ -24,7 +24,7 @@ until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse" || { cat "$HOM
 until_true "the compositor's window" xdotool search --class weston
 timeout "$wait_limit" xdotool windowfocus --sync "$(xdotool search --class weston | head -n 1)"
 
-bus() { /usr/bin/python3 "$here/on_bus.py" "$@"; }
+bus() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
 # Keys go to weston, which hands them to its focused window.
 press() { xdotool key --delay 30 "$@"; }
 
@@ -50,19 +50,16 @@ for platform in wayland chosen; do
     main="Tafelkasse Version x vom 16.11.2019"
     bus active "$main"
     grow_and_back "$main"
-    press alt+e Return
-    bus active "Namen der MitspielerInnen"
-    grow_and_back "Namen der MitspielerInnen"
-    press A n n a Return
-    bus gone "Namen der MitspielerInnen"
-    bus active "$main"
-    for dialog in " Ergebnisse eingeben: /ctrl+e/1 0 Return" "Korrektur letzte Eingabe/ctrl+k/Return" \
-        "Tafelkasse/ctrl+i/Escape" "Drucken/ctrl+p/Escape" "$WARNING/ctrl+n/Escape"; do
-        IFS=/ read -r name open close <<<"$dialog"
-        press "$open"
+    # Each window: the keys that open it from the main window, its name, the keys that close it.
+    for window in "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
+        "ctrl+k/Korrektur letzte Eingabe/Return" "ctrl+i/Tafelkasse/Escape" "ctrl+p/Drucken/Escape" \
+        "ctrl+n/$WARNING/Escape"; do
+        IFS=/ read -r open name close <<<"$window"
+        # shellcheck disable=SC2086 # keys, one word each
+        press $open
         bus active "$name"
         grow_and_back "$name"
-        # shellcheck disable=SC2086 # the keys that close it, one word each
+        # shellcheck disable=SC2086
         press $close
         bus gone "$name"
         bus active "$main"

@@ -5,7 +5,7 @@
 # The program under a window manager that minimizes, as on every desktop (openbox): the about
 # window comes back from minimized by each of its three ways, "Über…", Ctrl+I and the menu item,
 # always the same window; Esc hides it. The restart warning has no title the window manager
-# could show. Ends by Ctrl+Q with exit code 0.
+# could show. Ends by the main window's close box (Alt+F4 to the window manager) with exit code 0.
 # Usage: window_manager.sh PROGRAM
 set -euo pipefail
 program=$1
@@ -52,5 +52,5 @@ for name in WM_NAME _NET_WM_NAME; do
     xprop -id "$warning" "$name" | grep -q 'not found' || { echo "the warning has a $(xprop -id "$warning" "$name")"; exit 1; }
 done
 keys_and_gone '^$' Escape
-keys '^Tafelkasse Version' ctrl+q
+keys '^Tafelkasse Version' alt+F4
 ended_well $pid

@@ -7,6 +7,7 @@
 // page range, copies and page order of the print dialog, as pages taken from the full printout. The
 // sheet's characters as written, on screen and on paper, in a font with ligatures that the test
 // brings in a font configuration of its own.
+#include "FontConfiguration.h"
 #include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
 #include "view/BlattSchreiben.h"
@@ -50,25 +51,13 @@ public:
     // the sheet's name "Courier".
     static void initMain()
     {
-        static const QTemporaryDir fonts;
-        QFile conf(fonts.filePath(u"fonts.conf"_s));
-        if (!conf.open(QIODevice::WriteOnly))
-            qFatal("no font configuration of our own");
-        conf.write(uR"(<?xml version="1.0"?>
-<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
-<fontconfig>
+        useFontConfiguration(uR"(
   <dir>/usr/share/fonts/truetype/dejavu</dir>
   <dir>/usr/share/fonts/opentype/urw-base35</dir>
-  <cachedir>%1/cache</cachedir>
   <match target="scan">
     <test name="file" compare="contains"><string>/NimbusMonoPS-</string></test>
     <edit name="family" mode="assign_replace"><string>Courier</string></edit>
-  </match>
-</fontconfig>
-)"_s.arg(fonts.path())
-                       .toUtf8());
-        conf.close();
-        qputenv("FONTCONFIG_FILE", conf.fileName().toLocal8Bit());
+  </match>)"_s);
     }
 
     // Prints the document into a PDF file as chosen, and reads each page's words back in the order
