@@ -2,12 +2,16 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Plays an evening on a desktop of its own with the program under strace and its accessibility
-# on, as when a screen reader runs. On the way, the main window, the results dialog, the about
-# window and the restart warning are read through the accessibility bus (screen_reader.py). At the end it fails
-# if the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts
-# and the runtime directory are not the program's own and are left out. The session bus, the
-# accessibility bus and the X server are not the program either: they run outside the trace.
+# Plays an evening on a desktop of its own, under a window manager that minimizes (openbox), with
+# the program under strace and its accessibility on, as when a screen reader runs. On the way, the
+# main window, the results dialog, the about window and the restart warning are read through the
+# accessibility bus (screen_reader.py); the about window comes back from minimized by each of its
+# three ways, always the same window, and goes by Esc; the restart warning has no title that the
+# window manager could show; the main window's close box ends the program. At the end it fails if
+# the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts and
+# the runtime directory are not the program's own and are left out. The session bus, the
+# accessibility bus, the X server and the window manager are not the program either: they run
+# outside the trace.
 # Usage: desktop_evening.sh PROGRAM
 set -euo pipefail
 program=$1
@@ -15,7 +19,10 @@ here=$(cd "$(dirname "$0")" && pwd)
 source "$here/drive.sh"
 own_desktop 1280x900x24 "$0" "$@"
 trace=$(mktemp)
-trap 'kill $pid 2>/dev/null || true; rm -f "$trace"' EXIT
+openbox --sm-disable &
+wm=$!
+trap 'kill $pid $wm 2>/dev/null || true; rm -f "$trace"' EXIT
+until_true "the window manager" xprop -root -notype _NET_SUPPORTING_WM_CHECK >/dev/null 2>&1
 
 # Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
 reader() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
@@ -29,10 +36,11 @@ main=$(window '^Tafelkasse Version x vom 16\.11\.2019$')
 settled "$main" >/dev/null
 reader main
 eval "$(xdotool getwindowgeometry --shell "$main")"
-top=$((Y + HEIGHT - 616)) # the content area's top, below the menu bar
+top=$((HEIGHT - 616)) # the content area's top in the window, below the menu bar
+click() { xdotool mousemove --window "$main" "$1" $((top + $2)) click 1; } # at a place of the content
 
 # Names and carry-overs: the button "Namen eingeben", then a name and a carry-over.
-xdotool mousemove $((X + 216)) $((top + 30)) click 1
+click 216 30
 keys_and_gone '^Namen der MitspielerInnen$' A n n a Tab Tab Tab Tab Tab Tab 2 5 Return
 # Three games and a correction, by the shortcuts.
 for score in 1 2 3; do
@@ -42,21 +50,36 @@ for score in 1 2 3; do
 done
 keys '^Tafelkasse Version' ctrl+k
 keys_and_gone '^Korrektur letzte Eingabe$' 4 Return
-# The text size, the about window (a click anywhere hides it), printing cancelled, then the
-# restart confirmed; the confirmation has no title, so it goes by an empty name.
-xdotool mousemove $((X + 326)) $((top + 586)) click 1 click 1
+# The text size; the about window, minimized and brought back by "Über…", Ctrl+I and the menu
+# item, hidden by a click anywhere and by Esc; printing cancelled; then the restart confirmed. The
+# confirmation has no title, so it goes by an empty name.
+click 326 586
+click 326 586
 keys '^Tafelkasse Version' ctrl+i
 about=$(window '^Tafelkasse$')
 reader about
-eval "$(xdotool getwindowgeometry --shell "$about" | sed 's/^/ABOUT_/')"
-xdotool mousemove $((ABOUT_X + 20)) $((ABOUT_Y + 20)) click 1
+minimized() { xprop -id "$about" _NET_WM_STATE | grep -q _NET_WM_STATE_HIDDEN; }
+for way in "click 79 30" "keys ^Tafelkasse.Version ctrl+i" "keys ^Tafelkasse.Version alt+e Up Return"; do
+    xdotool windowminimize --sync "$about"
+    until_true "the about window to be minimized" minimized
+    $way
+    if minimized || [ "$(window '^Tafelkasse$')" != "$about" ]; then echo "$way: the about window stays away"; exit 1; fi
+done
+settled "$about" >/dev/null
+xdotool mousemove --window "$about" 20 20 click 1
 gone '^Tafelkasse$'
+keys '^Tafelkasse Version' ctrl+i
+[ "$(window '^Tafelkasse$')" = "$about" ] || { echo "a click closed the about window instead of hiding it"; exit 1; }
+keys_and_gone '^Tafelkasse$' Escape
 keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
 reader warning
+for name in WM_NAME _NET_WM_NAME; do
+    xprop -id "$(window '^$')" "$name" | grep -q 'not found' || { echo "the warning has a $name"; exit 1; }
+done
 keys_and_gone '^$' Return
-keys '^Tafelkasse Version' ctrl+q
+keys '^Tafelkasse Version' alt+F4
 
 ended_well $pid
 
