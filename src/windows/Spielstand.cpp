@@ -105,14 +105,15 @@ void Spielstand::Layout()
     QFont fett = PushButton5->font();
     fett.setBold(true);
     PushButton5->setFont(fett);
-    // The buttons and the label have the system's size, as far as their boxes hold it.
+    // A button that has the keyboard focus answers Return as it answers Space.
+    for (QPushButton *knopf : findChildren<QPushButton *>())
+        knopf->setAutoDefault(true);
+    // The buttons and the label have the system's size, as far as their boxes hold it, a default
+    // button's frame included.
     for (const auto &c : controls) {
         if (c.control != Anzeige)
             SchriftDesDesktops(c.control);
     }
-    // A button that has the keyboard focus answers Return as it answers Space.
-    for (QPushButton *knopf : findChildren<QPushButton *>())
-        knopf->setAutoDefault(true);
 
     // The sheet can be read, selected and copied, never edited; it has no undo of its own,
     // so an "Undo" can never take a game off the sheet.

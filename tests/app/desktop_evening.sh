@@ -65,12 +65,12 @@ for way in "click 79 30" "keys ^Tafelkasse.Version ctrl+i" "keys ^Tafelkasse.Ver
     $way
     if minimized || [ "$(window '^Tafelkasse$')" != "$about" ]; then echo "$way: the about window stays away"; exit 1; fi
 done
+keys_and_gone '^Tafelkasse$' Escape
+keys '^Tafelkasse Version' ctrl+i
+[ "$(window '^Tafelkasse$')" = "$about" ] || { echo "Esc closed the about window instead of hiding it"; exit 1; }
 settled "$about" >/dev/null
 xdotool mousemove --window "$about" 20 20 click 1
 gone '^Tafelkasse$'
-keys '^Tafelkasse Version' ctrl+i
-[ "$(window '^Tafelkasse$')" = "$about" ] || { echo "a click closed the about window instead of hiding it"; exit 1; }
-keys_and_gone '^Tafelkasse$' Escape
 keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
