@@ -7,14 +7,13 @@
 // from another foundry, and fontconfig's alias that answers "Palatino" with DejaVu Sans. How the
 // evening's date is written: plainly without a desktop, in the user's locale with one, in every
 // locale with the full year and the seconds.
+#include "Desktop.h"
 #include "Doubles.h"
 #include "ledger/Modul1.h"
 #include "platform/QtServices.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -23,32 +22,13 @@ class QtServicesTest : public QObject {
     Q_OBJECT
 
 public:
-    // Qt's font database reads the configuration when the application starts.
     static void initMain()
     {
-        static const QTemporaryDir dir;
-        QFile conf(dir.filePath(u"fonts.conf"_s));
-        if (!conf.open(QIODevice::WriteOnly))
-            qFatal("no font configuration of our own");
-        conf.write(uR"(<?xml version="1.0"?>
-<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
-<fontconfig>
-  <dir>/usr/share/fonts/truetype/dejavu</dir>
-  <cachedir>%1/cache</cachedir>
-  <match target="scan">
-    <test name="file" compare="contains"><string>/DejaVuSansMono</string></test>
-    <edit name="family" mode="assign_replace"><string>Courier</string></edit>
-  </match>
-  <match target="scan">
-    <test name="file" compare="contains"><string>/DejaVuSansMono-Bold.ttf</string></test>
-    <edit name="foundry" mode="assign_replace"><string>urw</string></edit>
-  </match>
-  <alias><family>Palatino</family><prefer><family>DejaVu Sans</family></prefer></alias>
-</fontconfig>
-)"_s.arg(dir.path())
-                       .toUtf8());
-        conf.close();
-        qputenv("FONTCONFIG_FILE", conf.fileName().toLocal8Bit());
+        useOwnFontConfiguration(renamed(u"/DejaVuSansMono"_s, u"Courier"_s) + uR"(<match target="scan">
+  <test name="file" compare="contains"><string>/DejaVuSansMono-Bold.ttf</string></test>
+  <edit name="foundry" mode="assign_replace"><string>urw</string></edit>
+</match>
+<alias><family>Palatino</family><prefer><family>DejaVu Sans</family></prefer></alias>)"_s);
     }
 
 private Q_SLOTS:

@@ -5,6 +5,7 @@
 // any field. A model follows what the user meant; after every action the ledger, the enabled
 // controls and the sheet must agree with it. TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS
 // sets its length (5000).
+#include "Desktop.h"
 #include "Doubles.h"
 #include "Modal.h"
 #include "PrintDoubles.h"
@@ -40,7 +41,7 @@ class ZufallsabendTest : public QObject {
     } model;
     std::mt19937_64 rng;
     QStringList log;
-    bool answered = true; // whether the dialog that the last action expected came up
+    QString problem; // with the dialogs of the last action
     struct SheetInputs { // all that the sheet is made of
         Abend abend;
         Ueberschriften zeilen;
@@ -52,11 +53,6 @@ class ZufallsabendTest : public QObject {
 
     int below(int n) { return int(rng() % unsigned(n)); }
     static void type(QLineEdit *field, const QString &text) { field->selectAll(), field->insert(text); }
-    void expect(std::function<void(QWidget *)> answer)
-    {
-        answered = false;
-        whenModal([this, answer](QWidget *dialog) { answered = true, answer(dialog); });
-    }
 
     QString randomText(bool name)
     {
@@ -78,20 +74,28 @@ class ZufallsabendTest : public QObject {
         }
     }
 
-    // One of the ways to a command: its button, its menu item, its shortcut.
-    void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item)
+    // One of the ways to a command: its button, its menu item, its shortcut. `answer` answers the dialog
+    // that it must open; without one, it must open none.
+    void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item,
+                 const std::function<void(QWidget *)> &answer = {})
     {
         const int way = button ? below(key ? 3 : 2) : 1 + below(2);
         log << what + QStringList{u" (button)"_s, u" (menu)"_s, u" (shortcut)"_s}[way];
-        if (way == 0) {
-            QTest::mouseClick(button, Qt::LeftButton);
-        } else if (way == 1) {
-            w.findChild<QAction *>(QLatin1String(item))->trigger();
-        } else {
-            w.activateWindow();
-            QTRY_VERIFY(QApplication::activeWindow() == &w);
-            QTest::keyClick(&w, key, Qt::ControlModifier);
-        }
+        const bool ran = answered(
+            answer ? answer : [](QWidget *d) { d->close(); },
+            [&] {
+                if (way == 0) {
+                    QTest::mouseClick(button, Qt::LeftButton);
+                } else if (way == 1) {
+                    w.findChild<QAction *>(QLatin1String(item))->trigger();
+                } else {
+                    w.activateWindow();
+                    QTRY_VERIFY(QApplication::activeWindow() == &w);
+                    QTest::keyClick(&w, key, Qt::ControlModifier);
+                }
+            });
+        if (ran != bool(answer))
+            problem = ran ? u"a dialog came up where none may"_s : u"the dialog did not come up"_s;
     }
 
     void answerGame(QWidget *dialog, const char *field, bool correction)
@@ -134,27 +138,24 @@ class ZufallsabendTest : public QObject {
     {
         const auto n = int(model.games.size());
         const int choice = below(300);
+        using Answer = std::function<void(QWidget *)>;
         if (choice < 150) {
-            if (n < 99)
-                expect([this](QWidget *d) { answerGame(d, "Ergebnis", false); });
-            command(w, u"Ergebnisse"_s, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
+            command(w, u"Ergebnisse"_s, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben",
+                    n < 99 ? Answer([this](QWidget *d) { answerGame(d, "Ergebnis", false); }) : Answer());
         } else if (choice < 190) {
-            if (n > 0)
-                expect([this](QWidget *d) { answerGame(d, "Korrektur", true); });
-            command(w, u"Korrektur"_s, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
+            command(w, u"Korrektur"_s, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel",
+                    n > 0 ? Answer([this](QWidget *d) { answerGame(d, "Korrektur", true); }) : Answer());
         } else if (choice < 215) {
-            if (n == 0)
-                expect([this](QWidget *d) { answerNames(d); });
-            command(w, u"Namen"_s, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
+            command(w, u"Namen"_s, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler",
+                    n == 0 ? Answer([this](QWidget *d) { answerNames(d); }) : Answer());
         } else if (choice < 218) {
             const bool ok = below(2);
-            if (n > 0) {
-                ++model.beeps;
-                expect([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); });
-                if (ok)
-                    model.games.clear(), model.carry = {};
-            }
-            command(w, ok ? u"Neustart OK"_s : u"Neustart Abbruch"_s, w.Neustart_Button, Qt::Key_N, "AblageNeu");
+            command(w, ok ? u"Neustart OK"_s : u"Neustart Abbruch"_s, w.Neustart_Button, Qt::Key_N, "AblageNeu",
+                    n > 0 ? Answer([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); })
+                          : Answer());
+            if (n > 0 && ok)
+                model.games.clear(), model.carry = {};
+            model.beeps += n > 0;
         } else if (choice < 280) {
             const int which = below(3); // größer, Standard, kleiner
             log << QStringList{u"größer"_s, u"Standard"_s, u"kleiner"_s}[which];
@@ -171,7 +172,8 @@ class ZufallsabendTest : public QObject {
             QVERIFY(about && about->isVisible());
             below(2) ? QTest::mouseClick(about, Qt::LeftButton) : void(about->close());
         }
-        QTest::qWait(0);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // a closed about window goes
     }
 
     // Empty when ledger, controls and sheet agree with the model and with each other.
@@ -229,6 +231,7 @@ private Q_SLOTS:
         qInfo("seed %llu (TAFELKASSE_SEED=%llu replays this run)", qulonglong(seed), qulonglong(seed));
         rng.seed(seed);
         FixedClock clock;
+        const GermanDates dates;
         ScopedBeepCounter beeps;
         ScopedFontList fonts({"Courier", "Palatino"});
         ScopedPrintDialog printing(false, QString());
@@ -239,8 +242,10 @@ private Q_SLOTS:
 
         int mostGames = 0;
         for (int i = 0; i < actions; ++i) {
+            problem.clear();
             act(window);
-            const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_s;
+            if (problem.isEmpty())
+                problem = disagreement(window, beeps.beeps);
             mostGames = std::max(mostGames, int(model.games.size()));
             if (!problem.isEmpty()) {
                 const QString last = log.mid(std::max<qsizetype>(0, log.size() - 40)).join(u", "_s);
