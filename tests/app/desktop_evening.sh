@@ -5,7 +5,8 @@
 # Plays an evening on a desktop of its own with the program under strace and its accessibility
 # on, as when a screen reader runs. On the way, the main window, the results dialog and the
 # restart warning are read through the accessibility bus (screen_reader.py). At the end it fails
-# if the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts
+# if the program created, wrote, renamed or deleted any file, or if the X server did not hear its
+# bell exactly once, before the restart's warning. The caches of the desktop's fonts
 # and the runtime directory are not the program's own and are left out. The session bus, the
 # accessibility bus and the X server are not the program either: they run outside the trace.
 # Usage: desktop_evening.sh PROGRAM
@@ -14,8 +15,11 @@ program=$1
 here=$(cd "$(dirname "$0")" && pwd)
 source "$here/drive.sh"
 own_desktop 1280x900x24 "$0" "$@"
-trace=$(mktemp)
-trap 'kill $pid 2>/dev/null || true; rm -f "$trace"' EXIT
+trace=$(mktemp) bells=$(mktemp)
+/usr/bin/python3 "$here/bells.py" >"$bells" &
+hearing=$!
+trap 'kill ${pid:-} $hearing 2>/dev/null || true; rm -f "$trace" "$bells"' EXIT
+until_true "the bell to be heard" grep -q recording "$bells"
 
 # Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
 reader() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
@@ -53,6 +57,7 @@ gone '^Tafelkasse$'
 keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
+until_true "the bell before the warning" grep -q '^bell$' "$bells"
 reader warning
 keys_and_gone '^Tafelkasse$' Return
 keys '^Tafelkasse Version' ctrl+q
@@ -71,3 +76,5 @@ if [ -n "$changes" ]; then
     echo "$changes"
     exit 1
 fi
+rang=$(grep -c '^bell$' "$bells" || true)
+[ "$rang" -eq 1 ] || { echo "the bell rang $rang times, not once"; exit 1; }
