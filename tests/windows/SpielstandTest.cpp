@@ -60,7 +60,6 @@ private Q_SLOTS:
             },
             act);
         QCOMPARE(dialog, opened);
-        QCOMPARE(ran, !opened.isEmpty());
         const int last = games + (results && ran);
         QCOMPARE(Modul1.Spiel_Nr, last);
         if (ran)
