@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Thousands of random actions at the table, by button, shortcut and menu item, with any text in
-// any field. A model follows what the user meant; after every action the ledger, the enabled
-// controls and the sheet must agree with it. TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS
-// sets its length (5000).
+// any field. A model follows what the user meant: the names and each game as they stand. After
+// every action the ledger must be the evening as if each had been entered once so, and the enabled
+// controls, the beeps, the text size and the sheet must agree with it. TAFELKASSE_SEED replays a
+// run, TAFELKASSE_ACTIONS sets its length (5000).
 #include "Desktop.h"
 #include "Doubles.h"
 #include "Modal.h"
