@@ -8,21 +8,24 @@
 # accessibility bus (screen_reader.py); the about window comes back from minimized by each of its
 # three ways, always the same window, and goes by Esc; the restart warning has no title that the
 # window manager could show; the main window's close box ends the program. At the end it fails if
-# the program created, wrote, renamed or deleted any file. The caches of the desktop's fonts and
-# the runtime directory are not the program's own and are left out. The session bus, the
-# accessibility bus, the X server and the window manager are not the program either: they run
-# outside the trace.
+# the program created, wrote, renamed or deleted any file, or if the X server did not hear its bell
+# exactly once, before the restart's warning. The caches of the desktop's fonts and the runtime
+# directory are not the program's own and are left out. The session bus, the accessibility bus,
+# the X server and the window manager are not the program either: they run outside the trace.
 # Usage: desktop_evening.sh PROGRAM
 set -euo pipefail
 program=$1
 here=$(cd "$(dirname "$0")" && pwd)
 source "$here/drive.sh"
 own_desktop 1280x900x24 "$0" "$@"
-trace=$(mktemp)
+trace=$(mktemp) bells=$(mktemp)
 openbox --sm-disable &
 wm=$!
-trap 'kill $pid $wm 2>/dev/null || true; rm -f "$trace"' EXIT
+/usr/bin/python3 "$here/bells.py" >"$bells" &
+hearing=$!
+trap 'kill ${pid:-} $wm $hearing 2>/dev/null || true; rm -f "$trace" "$bells"' EXIT
 until_true "the window manager" xprop -root -notype _NET_SUPPORTING_WM_CHECK >/dev/null 2>&1
+until_true "the bell to be heard" grep -q recording "$bells"
 
 # Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
 reader() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
@@ -75,6 +78,7 @@ gone '^Tafelkasse$'
 keys '^Tafelkasse Version' ctrl+p
 keys_and_gone '^Drucken$' Escape
 keys '^Tafelkasse Version' ctrl+n
+until_true "the bell before the warning" grep -q '^bell' "$bells"
 reader warning
 for name in WM_NAME _NET_WM_NAME; do
     xprop -id "$(window '^$')" "$name" | grep -q 'not found' || { echo "the warning has a $name"; exit 1; }
@@ -96,3 +100,5 @@ if [ -n "$changes" ]; then
     echo "$changes"
     exit 1
 fi
+rang=$(grep -c '^bell' "$bells" || true)
+[ "$rang" -eq 1 ] || { echo "the bell rang $rang times, not once"; exit 1; }

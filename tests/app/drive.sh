@@ -88,8 +88,9 @@ keys_and_gone() { # title, xdotool key arguments...
     keys "$@" && gone "$1"
 }
 
-# A fingerprint of what the window shows: its number of colours and a hash of its pixels.
-picture() { import -window "$1" -format '%k %#' info:- 2>/dev/null; }
+# A fingerprint of what the window shows: its number of colours and a hash of its pixels, taken
+# without the bell that import rings otherwise.
+picture() { import -silent -window "$1" -format '%k %#' info:- 2>/dev/null; }
 
 # Waits until the window shows a finished picture and prints its fingerprint: more than one
 # colour (it has been painted), the same in two grabs one after the other (the paint is not

@@ -19,11 +19,17 @@ fail() { echo "$*"; exit 1; }
 program_locale=${LC_ALL:-}
 export LC_ALL=C.UTF-8
 
-# The checkout as it stands, uncommitted changes included, without its build directories: the
-# package build writes into its source tree and its results beside it.
+# The source as it stands, uncommitted changes included, without its build directories: the
+# package build writes into its source tree and its results beside it. A checkout names its files;
+# a copy without git, as a release tarball is, is taken whole but for the folders CMake built in.
 mkdir "$work/tafelkasse"
-git -C "$source" ls-files -z --cached --others --exclude-standard |
-    tar -C "$source" --null --ignore-failed-read -T - -cf - 2>/dev/null | tar -C "$work/tafelkasse" -xf -
+if [ -e "$source/.git" ]; then
+    git -C "$source" ls-files -z --cached --others --exclude-standard |
+        tar -C "$source" --null --ignore-failed-read -T - -cf - 2>/dev/null | tar -C "$work/tafelkasse" -xf -
+else
+    (cd "$source" && find . -name CMakeCache.txt -printf '%h\n') >"$work/builds"
+    tar -C "$source" --anchored --exclude-from="$work/builds" -cf - . | tar -C "$work/tafelkasse" -xf -
+fi
 
 # Its tests are left out: the same tests run in this suite.
 (cd "$work/tafelkasse" && DEB_BUILD_OPTIONS="nocheck parallel=2" \

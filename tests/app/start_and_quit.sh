@@ -24,7 +24,7 @@ read -r _ _ _ functions decorations _ < <(xprop -id "$main" _MOTIF_WM_HINTS | tr
     { echo "the window offers to maximize: $functions $decorations"; exit 1; }
 [[ $(xprop -id "$main" _NET_WM_ICON) == *"Icon (128 x 128)"* ]] || { echo "the window lacks its icon"; exit 1; }
 settled "$main" >/dev/null
-import -window root "$screenshot"
+import -silent -window root "$screenshot"
 
 # At a scale factor (a high-resolution screen) the window is as many times larger in pixels.
 scale=${QT_SCALE_FACTOR:-1}

@@ -7,8 +7,8 @@
 // from another foundry, and fontconfig's alias that answers "Palatino" with DejaVu Sans. How the
 // evening's date is written: plainly without a desktop, in the user's locale with one, in every
 // locale with the full year and the seconds.
+#include "Desktop.h"
 #include "Doubles.h"
-#include "FontConfiguration.h"
 #include "ledger/Modul1.h"
 #include "platform/QtServices.h"
 
@@ -22,20 +22,13 @@ class QtServicesTest : public QObject {
     Q_OBJECT
 
 public:
-    // Qt's font database reads the configuration when the application starts.
     static void initMain()
     {
-        useFontConfiguration(uR"(
-  <dir>/usr/share/fonts/truetype/dejavu</dir>
-  <match target="scan">
-    <test name="file" compare="contains"><string>/DejaVuSansMono</string></test>
-    <edit name="family" mode="assign_replace"><string>Courier</string></edit>
-  </match>
-  <match target="scan">
-    <test name="file" compare="contains"><string>/DejaVuSansMono-Bold.ttf</string></test>
-    <edit name="foundry" mode="assign_replace"><string>urw</string></edit>
-  </match>
-  <alias><family>Palatino</family><prefer><family>DejaVu Sans</family></prefer></alias>)"_s);
+        useOwnFontConfiguration(renamed(u"/DejaVuSansMono"_s, u"Courier"_s) + uR"(<match target="scan">
+  <test name="file" compare="contains"><string>/DejaVuSansMono-Bold.ttf</string></test>
+  <edit name="foundry" mode="assign_replace"><string>urw</string></edit>
+</match>
+<alias><family>Palatino</family><prefer><family>DejaVu Sans</family></prefer></alias>)"_s);
     }
 
 private Q_SLOTS:

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The sheet reduced to what a reader sees: its characters, every line end as CR, and the style of
-// each (bold + 2 * italic; none on a line end, where nobody sees one). Built from the pieces or read
-// back from a QTextDocument, so that the two compare whole at memory speed, as the random evening
-// does after every action. lines() writes it out for people: each line as its runs of one style,
-// "-|" for plain, "b|", "i|" or "bi|" and the run's text.
+// The sheet reduced to what a reader sees: its characters, every line end as a paragraph's end, and
+// the style of each (bold + 2 * italic). A line end takes the style of the line that it opens, which a copy of the
+// sheet shows in its HTML. Built from the pieces or read back from a QTextDocument, so that the two
+// compare whole at memory speed, as the random evening does after every action. lines() writes it out
+// for people: each line as its runs of one style, "-|" for plain, "b|", "i|" or "bi|" and the run's
+// text; a line begins with the style of the line end that opens it.
 #pragma once
 
 #include "view/Blatt.h"
@@ -32,7 +33,7 @@ struct SheetImage {
             image.text += part;
             image.style.append(part.size(), char(piece.Fett + 2 * piece.Kursiv));
         }
-        image.endLines();
+        image.text.replace(QChar(CR), QChar::ParagraphSeparator);
         return image;
     }
 
@@ -41,15 +42,17 @@ struct SheetImage {
         // The raw text keeps a separator at each paragraph's end, so a fragment's position is its index.
         SheetImage image{document.toRawText(), {}};
         image.style.fill(0, image.text.size());
+        const auto styleOf = [](const QTextCharFormat &format) {
+            return char((format.fontWeight() >= QFont::Bold) + 2 * format.fontItalic());
+        };
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            if (block.position() > 0) // the separator in front of a paragraph carries its block's format
+                image.style[block.position() - 1] = styleOf(block.charFormat());
             for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QTextCharFormat format = it.fragment().charFormat();
-                std::memset(image.style.data() + it.fragment().position(),
-                            (format.fontWeight() >= QFont::Bold) + 2 * format.fontItalic(),
+                std::memset(image.style.data() + it.fragment().position(), styleOf(it.fragment().charFormat()),
                             size_t(it.fragment().length()));
             }
         }
-        image.endLines();
         return image;
     }
 
@@ -57,11 +60,13 @@ struct SheetImage {
     {
         QString written;
         for (qsizetype i = 0; i < text.size(); ++i) {
-            if (text[i] != QChar(CR) && (i == 0 || text[i - 1] == QChar(CR) || style[i] != style[i - 1]))
+            if (text[i] != QChar::ParagraphSeparator && (i == 0 || style[i] != style[i - 1]))
                 written += styles[style[i]];
             written += text[i];
+            if (text[i] == QChar::ParagraphSeparator)
+                written += styles[style[i]];
         }
-        return written.split(QChar(CR));
+        return written.split(QChar::ParagraphSeparator);
     }
 
     // The first line in which what stands differs from what is expected, or nothing when they are equal.
@@ -75,14 +80,4 @@ struct SheetImage {
     }
 
     friend bool operator==(const SheetImage &a, const SheetImage &b) { return a.text == b.text && a.style == b.style; }
-
-private:
-    // Every line end as CR and without a style: the sheet's own, a paragraph's end in the document and a
-    // line separator inside a paragraph, which ends a line for the reader as well.
-    void endLines()
-    {
-        text.replace(QChar::ParagraphSeparator, QChar(CR)).replace(QChar::LineSeparator, QChar(CR));
-        for (qsizetype i = text.indexOf(QChar(CR)); i >= 0; i = text.indexOf(QChar(CR), i + 1))
-            style[i] = 0;
-    }
 };

@@ -7,6 +7,7 @@
 
 #include "ledger/Eingabe.h"
 #include "platform/QtText.h"
+#include "support/Desktop.h"
 #include "support/Doubles.h"
 #include "support/SheetImage.h"
 #include "view/BlattSchreiben.h"
@@ -39,20 +40,20 @@ private Q_SLOTS:
         abend.Osten[99] = "";
         abend.Stand_4[99] = std::numeric_limits<std::int64_t>::min();
         QStringList erwartet = uR"(b|Tafelkasse (Test-Version); 12.03.2021, 19:30:00
-
+-|
 -|Nach jedem Spiel werden angezeigt: Ergebnis; Umsatz; neuer Kontostand
-
+-|
 i|Der Spieler, der Osten war, wird jeweils kursiv dargestellt.
 b|Der Spieler, der Mahjongg sagte, wird jeweils fett dargestellt.
-
+-|
 -|Anna:  150
 -|Bert:  -50
 -|Bert:  0
 -|Dora:  -100)"_s.split(u'\n');
         for (int n = 1; n <= 99; ++n) {
             const QString winner = qs(abend.Mahjongg[n]), east = qs(abend.Osten[n]);
-            erwartet << QString() << u"-|Spiel Nr. %1"_s.arg(n) << u"-|  Mahjongg sagte: "_s + winner
-                     << u"-|  Osten war: "_s + east << QString();
+            erwartet << u"-|"_s << u"-|Spiel Nr. %1"_s.arg(n) << u"-|  Mahjongg sagte: "_s + winner
+                     << u"-|  Osten war: "_s + east << u"-|"_s;
             for (int p = 1; p <= 4; ++p) {
                 const QString name = qs(abend.Spieler(p));
                 const QString stil = SheetImage::styles[(name == winner) + 2 * (name == east)];
@@ -61,7 +62,7 @@ b|Der Spieler, der Mahjongg sagte, wird jeweils fett dargestellt.
                                                         QString::number(abend.Stand(p)[n]));
             }
         }
-        // The date as written without a desktop.
+        const GermanDates dates;
         const std::string datum = DateTime{FixedClock::Maerz2021}.ToString();
         const Blatt blatt = Dokument(abend, StandardUeberschriften(), "Courier", datum);
         const QStringList zeilen = SheetImage::fromPieces(blatt.Stuecke).lines();

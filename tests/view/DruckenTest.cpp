@@ -7,7 +7,7 @@
 // page range, copies and page order of the print dialog, as pages taken from the full printout. The
 // sheet's characters as written, on screen and on paper, in a font with ligatures that the test
 // brings in a font configuration of its own.
-#include "FontConfiguration.h"
+#include "Desktop.h"
 #include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
 #include "view/BlattSchreiben.h"
@@ -51,13 +51,8 @@ public:
     // the sheet's name "Courier".
     static void initMain()
     {
-        useFontConfiguration(uR"(
-  <dir>/usr/share/fonts/truetype/dejavu</dir>
-  <dir>/usr/share/fonts/opentype/urw-base35</dir>
-  <match target="scan">
-    <test name="file" compare="contains"><string>/NimbusMonoPS-</string></test>
-    <edit name="family" mode="assign_replace"><string>Courier</string></edit>
-  </match>)"_s);
+        useOwnFontConfiguration(u"<dir>/usr/share/fonts/opentype/urw-base35</dir>"_s
+                                + renamed(u"/NimbusMonoPS-"_s, u"Courier"_s));
     }
 
     // Prints the document into a PDF file as chosen, and reads each page's words back in the order

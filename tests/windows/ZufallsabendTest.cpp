@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Thousands of random actions at the table, by button, shortcut and menu item, with any text in
-// any field. A model follows what the user meant; after every action the ledger, the enabled
-// controls and the sheet must agree with it. TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS
-// sets its length (5000).
+// any field. A model follows what the user meant: the names and each game as they stand. After
+// every action the ledger must be the evening as if each had been entered once so, and the enabled
+// controls, the beeps, the text size and the sheet must agree with it. TAFELKASSE_SEED replays a
+// run, TAFELKASSE_ACTIONS sets its length (5000).
+#include "Desktop.h"
 #include "Doubles.h"
 #include "Modal.h"
 #include "PrintDoubles.h"
 #include "SheetImage.h"
-#include "platform/Text.h"
+#include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
 
 #include <QAction>
@@ -27,20 +29,26 @@ using namespace Qt::StringLiterals;
 class ZufallsabendTest : public QObject {
     Q_OBJECT
 
-    struct Spiel {
-        int winner, east; // 0 to 3, as chosen in the dialog
-        std::array<std::int64_t, 4> scores;
-    };
     struct Modell {
-        std::array<std::string, 4> names{StandardName(1), StandardName(2), StandardName(3), StandardName(4)};
-        std::array<std::int64_t, 4> carry{};
-        std::vector<Spiel> games;
+        NamenForm names; // as last confirmed
+        std::vector<ResultForm> games; // each as it stands after its corrections
         double size = 12;
         int beeps = 0;
+        // The ledger as if the names and then each game had been entered once, as they stand now;
+        // the date and the flags that the dialogs leave are taken from `now`.
+        Abend abend(const Abend &now) const
+        {
+            Abend a;
+            Namen_OK(a, names);
+            for (const ResultForm &game : games)
+                Ergebnisse_OK(a, game);
+            a.Tagesdatum = now.Tagesdatum, a.Gute_Eingabe = now.Gute_Eingabe, a.DruckKnopf = now.DruckKnopf;
+            return a;
+        }
     } model;
     std::mt19937_64 rng;
     QStringList log;
-    bool answered = true; // whether the dialog that the last action expected came up
+    QString problem; // with the dialogs of the last action
     struct SheetInputs { // all that the sheet is made of
         Abend abend;
         Ueberschriften zeilen;
@@ -52,11 +60,6 @@ class ZufallsabendTest : public QObject {
 
     int below(int n) { return int(rng() % unsigned(n)); }
     static void type(QLineEdit *field, const QString &text) { field->selectAll(), field->insert(text); }
-    void expect(std::function<void(QWidget *)> answer)
-    {
-        answered = false;
-        whenModal([this, answer](QWidget *dialog) { answered = true, answer(dialog); });
-    }
 
     QString randomText(bool name)
     {
@@ -74,37 +77,46 @@ class ZufallsabendTest : public QObject {
         case 3: // a name longer than a line of the sheet, which wraps it; a score beyond 64 bits
             return name ? u"Äöü ß "_s.repeated(below(40)) : u"7"_s.repeated(below(40));
         default:
-            return QString::fromStdString(model.names[size_t(below(4))]); // an equal name
+            return QString::fromStdString(Modul1.Spieler(1 + below(4))); // an equal name
         }
     }
 
-    // One of the ways to a command: its button, its menu item, its shortcut.
-    void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item)
+    // One of the ways to a command: its button, its menu item, its shortcut. `answer` answers the dialog
+    // that it must open; without one, it must open none.
+    void command(Spielstand &w, const QString &what, QPushButton *button, Qt::Key key, const char *item,
+                 const std::function<void(QWidget *)> &answer = {})
     {
         const int way = button ? below(key ? 3 : 2) : 1 + below(2);
         log << what + QStringList{u" (button)"_s, u" (menu)"_s, u" (shortcut)"_s}[way];
-        if (way == 0) {
-            QTest::mouseClick(button, Qt::LeftButton);
-        } else if (way == 1) {
-            w.findChild<QAction *>(QLatin1String(item))->trigger();
-        } else {
-            w.activateWindow();
-            QTRY_VERIFY(QApplication::activeWindow() == &w);
-            QTest::keyClick(&w, key, Qt::ControlModifier);
-        }
+        const bool ran = answered(
+            answer ? answer : [](QWidget *d) { d->close(); },
+            [&] {
+                if (way == 0) {
+                    QTest::mouseClick(button, Qt::LeftButton);
+                } else if (way == 1) {
+                    w.findChild<QAction *>(QLatin1String(item))->trigger();
+                } else {
+                    w.activateWindow();
+                    QTRY_VERIFY(QApplication::activeWindow() == &w);
+                    QTest::keyClick(&w, key, Qt::ControlModifier);
+                }
+            });
+        if (ran != bool(answer))
+            problem = ran ? u"a dialog came up where none may"_s : u"the dialog did not come up"_s;
     }
 
     void answerGame(QWidget *dialog, const char *field, bool correction)
     {
-        Spiel spiel{below(4), below(4), {}};
+        ResultForm spiel{{}, 1 + below(4), 1 + below(4)};
         for (int k = 0; k < 4; ++k) {
             auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field) + QString::number(k + 1));
             if (!correction || below(2))
                 type(edit, randomText(false));
-            spiel.scores[size_t(k)] = ZahlAusText(edit->text().toStdString());
+            spiel.ScoreText[size_t(k)] = edit->text().toStdString();
         }
-        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_s.arg(spiel.winner + 1)), Qt::LeftButton);
-        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_s.arg(spiel.east + 1)), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Mahjongg_%1"_s.arg(spiel.MahjonggChoice)),
+                          Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QRadioButton *>(u"Osten_%1"_s.arg(spiel.OstenChoice)), Qt::LeftButton);
         const bool ok = below(5) > 0;
         QTest::keyClick(dialog, ok ? Qt::Key_Return : Qt::Key_Escape);
         if (ok)
@@ -113,13 +125,12 @@ class ZufallsabendTest : public QObject {
 
     void answerNames(QWidget *dialog)
     {
-        Modell next = model;
+        NamenForm next;
         for (int k = 0; k < 4; ++k) {
             const QString name = randomText(true), carry = randomText(false);
             type(dialog->findChild<QLineEdit *>(u"Name_%1"_s.arg(k + 1)), name);
             type(dialog->findChild<QLineEdit *>(u"Übertrag_%1"_s.arg(k + 1)), carry);
-            next.names[size_t(k)] = name.isEmpty() ? StandardName(k + 1) : name.toStdString();
-            next.carry[size_t(k)] = ZahlAusText(carry.toStdString());
+            next.Name[size_t(k)] = name.toStdString(), next.Uebertrag[size_t(k)] = carry.toStdString();
         }
         const int way = below(3); // Abbruch, the close box, OK
         if (way == 1)
@@ -127,34 +138,31 @@ class ZufallsabendTest : public QObject {
         else
             QTest::mouseClick(child<QPushButton>(dialog, way ? "OK_Name" : "Abbruch_Name"), Qt::LeftButton);
         if (way == 2)
-            model = next;
+            model.names = next;
     }
 
     void act(Spielstand &w)
     {
         const auto n = int(model.games.size());
         const int choice = below(300);
+        using Answer = std::function<void(QWidget *)>;
         if (choice < 150) {
-            if (n < 99)
-                expect([this](QWidget *d) { answerGame(d, "Ergebnis", false); });
-            command(w, u"Ergebnisse"_s, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben");
+            command(w, u"Ergebnisse"_s, w.Ergebnisse_Button, Qt::Key_E, "ErgebnisseErgebnisseeingeben",
+                    n < 99 ? Answer([this](QWidget *d) { answerGame(d, "Ergebnis", false); }) : Answer());
         } else if (choice < 190) {
-            if (n > 0)
-                expect([this](QWidget *d) { answerGame(d, "Korrektur", true); });
-            command(w, u"Korrektur"_s, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel");
+            command(w, u"Korrektur"_s, w.Korrektur_Button, Qt::Key_K, "ErgebnisseKorrekturletztesSpiel",
+                    n > 0 ? Answer([this](QWidget *d) { answerGame(d, "Korrektur", true); }) : Answer());
         } else if (choice < 215) {
-            if (n == 0)
-                expect([this](QWidget *d) { answerNames(d); });
-            command(w, u"Namen"_s, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler");
+            command(w, u"Namen"_s, w.Namen_Button, Qt::Key(0), "ErgebnisseNamenderSpieler",
+                    n == 0 ? Answer([this](QWidget *d) { answerNames(d); }) : Answer());
         } else if (choice < 218) {
             const bool ok = below(2);
-            if (n > 0) {
-                ++model.beeps;
-                expect([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); });
-                if (ok)
-                    model.games.clear(), model.carry = {};
-            }
-            command(w, ok ? u"Neustart OK"_s : u"Neustart Abbruch"_s, w.Neustart_Button, Qt::Key_N, "AblageNeu");
+            command(w, ok ? u"Neustart OK"_s : u"Neustart Abbruch"_s, w.Neustart_Button, Qt::Key_N, "AblageNeu",
+                    n > 0 ? Answer([ok](QWidget *d) { QTest::keyClick(d, ok ? Qt::Key_Return : Qt::Key_Escape); })
+                          : Answer());
+            if (n > 0 && ok)
+                model.games.clear(), model.names.Uebertrag = {};
+            model.beeps += n > 0;
         } else if (choice < 280) {
             const int which = below(3); // größer, Standard, kleiner
             log << QStringList{u"größer"_s, u"Standard"_s, u"kleiner"_s}[which];
@@ -171,29 +179,17 @@ class ZufallsabendTest : public QObject {
             QVERIFY(about && about->isVisible());
             below(2) ? QTest::mouseClick(about, Qt::LeftButton) : void(about->close());
         }
-        QTest::qWait(0);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // a closed about window goes
     }
 
     // Empty when ledger, controls and sheet agree with the model and with each other.
     QString disagreement(Spielstand &w, int beeps)
     {
-        const Abend &a = Modul1;
         const auto n = std::int64_t(model.games.size());
-        if (a.Spiel_Nr != n)
-            return u"Spiel_Nr %1, expected %2"_s.arg(a.Spiel_Nr).arg(n);
-        for (int k = 1; k <= 4; ++k) {
-            if (a.Spieler(k) != model.names[size_t(k - 1)] || a.Stand(k)[0] != model.carry[size_t(k - 1)])
-                return u"name or carry-over of player %1"_s.arg(k);
-            for (std::int64_t i = 1; i <= n; ++i) {
-                const Spiel &s = model.games[size_t(i - 1)];
-                const auto r = size_t(i);
-                const auto u = [&](int p) { return std::uint64_t(a.Umsatz(p)[r]); };
-                if (a.Mahjongg[r] != model.names[size_t(s.winner)] || a.Osten[r] != model.names[size_t(s.east)]
-                    || a.Ergebnis(k)[r] != s.scores[size_t(k - 1)] || u(1) + u(2) + u(3) + u(4) != 0
-                    || std::uint64_t(a.Stand(k)[r]) != std::uint64_t(a.Stand(k)[r - 1]) + u(k))
-                    return u"game %1 of player %2: names, score, balance or the turnovers' sum of 0"_s.arg(i).arg(k);
-            }
-        }
+        if (!(Modul1 == model.abend(Modul1)))
+            return u"the ledger of %1 games is not the evening of %2 games as they were entered"_s.arg(Modul1.Spiel_Nr)
+                .arg(n);
         // Names, new game, correction, restart: as buttons, then as menu items.
         QList<bool> enabled{w.Namen_Button->isEnabled(), w.Ergebnisse_Button->isEnabled(),
                             w.Korrektur_Button->isEnabled(), w.Neustart_Button->isEnabled()};
@@ -209,10 +205,10 @@ class ZufallsabendTest : public QObject {
                 .arg(model.beeps)
                 .arg(model.size);
         // Most actions leave the ledger alone, and the same inputs make the same sheet.
-        SheetInputs inputs{a, w.Zeilen(), BlattSchrift()};
+        SheetInputs inputs{Modul1, w.Zeilen(), BlattSchrift()};
         if (expectedFrom != inputs) {
             expectedImage = SheetImage::fromPieces(
-                Dokument(inputs.abend, inputs.zeilen, inputs.schrift, a.Tagesdatum->ToString()).Stuecke);
+                Dokument(inputs.abend, inputs.zeilen, inputs.schrift, Modul1.Tagesdatum->ToString()).Stuecke);
             expectedFrom = std::move(inputs);
         }
         return SheetImage::firstDifference(SheetImage::fromDocument(*w.Anzeige->document()), expectedImage);
@@ -229,6 +225,7 @@ private Q_SLOTS:
         qInfo("seed %llu (TAFELKASSE_SEED=%llu replays this run)", qulonglong(seed), qulonglong(seed));
         rng.seed(seed);
         FixedClock clock;
+        const GermanDates dates;
         ScopedBeepCounter beeps;
         ScopedFontList fonts({"Courier", "Palatino"});
         ScopedPrintDialog printing(false, QString());
@@ -239,8 +236,10 @@ private Q_SLOTS:
 
         int mostGames = 0;
         for (int i = 0; i < actions; ++i) {
+            problem.clear();
             act(window);
-            const QString problem = answered ? disagreement(window, beeps.beeps) : u"the dialog did not come up"_s;
+            if (problem.isEmpty())
+                problem = disagreement(window, beeps.beeps);
             mostGames = std::max(mostGames, int(model.games.size()));
             if (!problem.isEmpty()) {
                 const QString last = log.mid(std::max<qsizetype>(0, log.size() - 40)).join(u", "_s);
