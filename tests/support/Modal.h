@@ -24,7 +24,7 @@ inline void whenModal(std::function<void(QWidget *)> answer, int triesLeft = 500
 }
 
 // The control of that object name, such as "Übertrag_1", or null.
-template <typename T>
+template<typename T>
 T *child(QWidget *parent, const QString &name)
 {
     return parent ? parent->findChild<T *>(name) : nullptr;

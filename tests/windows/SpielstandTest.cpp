@@ -247,8 +247,8 @@ private Q_SLOTS:
         key(Qt::Key_K, Qt::ControlModifier);
         QCOMPARE(
             paths,
-            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s,
-                         u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s, u"Ergebnis1 Osten_4 Osten_3"_s,
+            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s, u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s,
+                         u"Ergebnis1 Osten_4 Osten_3"_s,
                          u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 Mahjongg_1 Cancel"_s}));
         QCOMPARE(Modul1.Mahjongg[1] + '/' + Modul1.Osten[1], "Spieler 3/Spieler 4");
         QCOMPARE((QList<qint64>{Modul1.Spiel_Nr, Modul1.Ergebnis_1[1], Modul1.Ergebnis_4[1]}),
