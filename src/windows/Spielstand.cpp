@@ -3,6 +3,8 @@
 #include "Spielstand.h"
 
 #include "Achtung.h"
+#include "Anker.h"
+#include "Beschriftung.h"
 #include "Ergebnisse.h"
 #include "Korrigieren.h"
 #include "Menue.h"
@@ -10,8 +12,6 @@
 #include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
-#include "platform/Anker.h"
-#include "platform/Beschriftung.h"
 #include "platform/PrintDialog.h"
 #include "platform/QtText.h"
 #include "platform/System.h"
