@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Modul1.h"
 
-#include "platform/System.h"
+#include "platform/Fonts.h"
 #include "platform/Text.h"
 
 namespace {
@@ -73,11 +73,16 @@ std::string StandardName(int k)
 bool FontAvailable(std::string_view name)
 {
     // The count is asked anew at each pass, as the list may change while we look.
-    for (int i = 0; i <= System::FontCount() - 1; ++i) {
-        if (NameGleich(System::FontAt(i), name))
+    for (int i = 0; i <= platform::FontCount() - 1; ++i) {
+        if (NameGleich(platform::FontAt(i), name))
             return true;
     }
     return false;
+}
+
+std::string SchriftOderSystem(std::string_view name)
+{
+    return std::string(FontAvailable(name) ? name : platform::SystemFont);
 }
 
 Freigabe FreigabeBei(std::int64_t spielNr)

@@ -3,7 +3,8 @@
 #include "Rechnen.h"
 
 #include "Wrapping.h"
-#include "platform/System.h"
+#include "platform/Beep.h"
+#include "platform/MessageBox.h"
 #include "platform/Text.h"
 
 namespace {
@@ -71,8 +72,8 @@ void Rechnen(Abend &abend)
     for (int k = 1; k <= 4; ++k)
         summe = wrapping_add(summe, abend.Umsatz(k)[n]);
     if (summe != 0) {
-        System::Beep();
-        MessageBox(Rechenfehler);
+        platform::Beep();
+        platform::MessageBox(Rechenfehler);
     }
 
     for (int k = 1; k <= 4; ++k)

@@ -61,7 +61,7 @@ Blatt Dokument(const Abend &abend, const Ueberschriften &zeilen, std::string_vie
 
 std::string BlattSchrift()
 {
-    return FontAvailable("Courier") ? "Courier" : "system";
+    return SchriftOderSystem("Courier");
 }
 
 std::string Volltext(const std::vector<Stueck> &stuecke)

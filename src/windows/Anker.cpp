@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Anker.h"
+#include "windows/Anker.h"
 
 #include <QEvent>
 #include <QWidget>
-
-namespace platform {
 
 Anker::Anker(QWidget *container, QSize entwurf)
     : QObject(container)
@@ -57,5 +55,3 @@ void Anker::anwenden(const Eintrag &eintrag, QSize jetzt) const
                               eintrag.locks & LockBottom);
     eintrag.control->setGeometry(x, y, std::max(w, 0), std::max(h, 0));
 }
-
-} // namespace platform

@@ -14,8 +14,6 @@
 
 class QWidget;
 
-namespace platform {
-
 enum Lock : unsigned {
     LockLeft = 1,
     LockTop = 2,
@@ -47,5 +45,3 @@ private:
     QSize m_entwurf;
     QVector<Eintrag> m_eintraege;
 };
-
-} // namespace platform

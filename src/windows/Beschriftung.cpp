@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Beschriftung.h"
+#include "windows/Beschriftung.h"
 
 #include <QAccessibleWidget>
 #include <QLabel>
@@ -89,8 +89,6 @@ QAccessibleInterface *fabrik(const QString &, QObject *object)
 
 } // namespace
 
-namespace platform {
-
 void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe)
 {
     QAccessible::installFactory(fabrik);
@@ -108,5 +106,3 @@ void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe
             QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(schnittstelle));
     }
 }
-
-} // namespace platform

@@ -12,9 +12,10 @@
 #include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
+#include "platform/Beep.h"
+#include "platform/Fonts.h"
 #include "platform/PrintDialog.h"
 #include "platform/QtText.h"
-#include "platform/System.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
 
@@ -27,7 +28,6 @@
 #include <QTextEdit>
 
 using namespace Qt::StringLiterals;
-using namespace platform;
 
 namespace {
 constexpr QSize Inhalt{896, 616};
@@ -118,7 +118,7 @@ void Spielstand::Layout()
     Anzeige->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Anzeige->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Anzeige->setLineWrapMode(QTextEdit::WidgetWidth);
-    Anzeige->setFont(platform::font("system", LayoutSchriftgroesse));
+    Anzeige->setFont(platform::font(platform::SystemFont, LayoutSchriftgroesse));
     // Tab leaves the sheet, so that the keyboard can reach the buttons from it.
     Anzeige->setTabChangesFocus(true);
     // A selection shows only while the sheet has the focus.
@@ -144,7 +144,7 @@ void Spielstand::Event_Opening()
 {
     Modul1.Tagesdatum = DateTime::Now();
     QFont schrift = Anzeige->font();
-    schrift.setFamily(FontAvailable("Courier") ? u"Courier"_s : platform::fontFamily("System"));
+    schrift.setFamily(platform::fontFamily(BlattSchrift()));
     Anzeige->setFont(schrift);
     Textgroesse = static_cast<std::int64_t>(Anzeige->font().pointSizeF());
     for (int k = 1; k <= 4; ++k)
@@ -222,7 +222,7 @@ void Spielstand::LetztesSpielKorrigieren()
 
 void Spielstand::NeustartFragen()
 {
-    System::Beep();
+    platform::Beep();
     Achtung dialog(this);
     dialog.exec();
     if (Modul1.DruckKnopf == 1)
@@ -259,7 +259,7 @@ void Spielstand::Drucken()
         = QDateTime::fromMSecsSinceEpoch(Modul1.Tagesdatum.value_or(DateTime{}).millisecondsSinceEpoch);
     printer.setDocName(u"Tafelkasse "_s + beginn.date().toString(Qt::ISODate));
     printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
-    if (OpenPrinterDialog(printer))
+    if (platform::OpenPrinterDialog(printer))
         DruckeBlatt(*Anzeige->document(), printer);
 }
 
@@ -314,6 +314,6 @@ void Spielstand::PushButton6_Pressed()
         schrift.setPointSizeF(schrift.pointSizeF() - 1);
         Anzeige->setFont(schrift);
     } else {
-        System::Beep();
+        platform::Beep();
     }
 }

@@ -73,7 +73,7 @@ QFont schriftImRaster(std::string_view name, int groesse)
 
 void UeberTafelkasse::Event_Opening()
 {
-    const std::string_view schrift = FontAvailable("Palatino") ? "Palatino" : "System";
+    const std::string schrift = SchriftOderSystem("Palatino");
     StaticText1->setFont(schriftImRaster(schrift, 36));
     StaticText2->setFont(schriftImRaster(schrift, 12));
     StaticText3->setFont(schriftImRaster(schrift, 12));

@@ -6,7 +6,8 @@
 // two losers settle the difference of theirs.
 
 #include "ledger/Rechnen.h"
-#include "platform/System.h"
+#include "platform/Beep.h"
+#include "platform/MessageBox.h"
 
 #include <QTest>
 
@@ -35,9 +36,7 @@ Vier nachRegel(int winner, int east, const Vier &s, const Vier &vorher)
 }
 
 // Hears beeps and messages in the order they come.
-struct Alarme final : platform::BeepService, platform::MessageService {
-    Alarme() { install(static_cast<BeepService *>(this)), install(static_cast<MessageService *>(this)); }
-    ~Alarme() { install(static_cast<BeepService *>(nullptr)), install(static_cast<MessageService *>(nullptr)); }
+struct Alarme final : platform::Installed<platform::BeepService>, platform::Installed<platform::MessageService> {
     void beep() override { log << u"beep"_s; }
     void show(std::string_view text) override { log << QString::fromUtf8(text); }
     QStringList log;
