@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
@@ -184,7 +183,7 @@ void Menue::AblageDrucken_Action()
 
 void Menue::FileQuit_Action()
 {
-    QCoreApplication::exit(0);
+    m_fenster.Quit();
 }
 
 void Menue::EditUndo_Action()

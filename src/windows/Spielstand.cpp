@@ -196,17 +196,30 @@ void Spielstand::showEvent(QShowEvent *event)
 void Spielstand::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    Quit();
+}
+
+void Spielstand::Quit()
+{
     QCoreApplication::exit(0);
+}
+
+void Spielstand::ModalZeigen(QDialog &dialog, const std::function<void()> &danach)
+{
+    dialog.exec();
+    if (danach)
+        danach();
+    // Qt does not activate the main window again when a modal dialog closes, so the refresh
+    // runs here, once the dialog, its handler and the step after it are done: it shows a new
+    // game, new names, or the buttons of an empty evening after a restart.
+    Event_Activated();
 }
 
 void Spielstand::ErgebnisseEingeben()
 {
     Ergebnisse dialog(this);
     dialog.SpielerSetzen(Modul1);
-    dialog.exec();
-    // Qt does not activate the main window again when a modal dialog closes, so the
-    // refresh that shows the new game runs here, once the dialog and its handler are done.
-    Event_Activated();
+    ModalZeigen(dialog);
 }
 
 void Spielstand::LetztesSpielKorrigieren()
@@ -214,22 +227,20 @@ void Spielstand::LetztesSpielKorrigieren()
     Korrigieren dialog(this);
     dialog.SpielerSetzen(Modul1);
     dialog.FormularSetzen(KorrekturFormular(Modul1));
-    dialog.exec();
-    if (Modul1.Gute_Eingabe)
-        Rechnen(Modul1);
-    Event_Activated();
+    ModalZeigen(dialog, [] {
+        if (Modul1.Gute_Eingabe)
+            Rechnen(Modul1);
+    });
 }
 
 void Spielstand::NeustartFragen()
 {
     platform::Beep();
     Achtung dialog(this);
-    dialog.exec();
-    if (Modul1.DruckKnopf == 1)
-        Neustart();
-    // Neustart writes the head but leaves the buttons; the refresh that Qt does not send
-    // after a modal dialog brings them in line with the empty evening.
-    Event_Activated();
+    ModalZeigen(dialog, [this] {
+        if (Modul1.DruckKnopf == 1)
+            Neustart();
+    });
 }
 
 void Spielstand::UeberZeigen()
@@ -244,10 +255,7 @@ void Spielstand::UeberZeigen()
 void Spielstand::NamenEingeben()
 {
     Namen dialog(this);
-    dialog.exec();
-    // The sheet takes up the new names and carry-overs at the refresh, which Qt does not
-    // start by itself when a modal dialog closes.
-    Event_Activated();
+    ModalZeigen(dialog);
 }
 
 void Spielstand::Drucken()
@@ -285,7 +293,7 @@ void Spielstand::Korrektur_Button_Pressed()
 
 void Spielstand::PushButton5_Pressed()
 {
-    QCoreApplication::exit(0);
+    Quit();
 }
 
 void Spielstand::Neustart_Button_Pressed()
