@@ -4,58 +4,63 @@
 
 #include <QAccessibleWidget>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 
 namespace {
 
-// Where the tie is kept: on the button, its label; on the label, its buttons.
-constexpr char BeschriftetVon[] = "tafelkasse_beschriftet_von";
-constexpr char Beschriftet[] = "tafelkasse_beschriftet";
+// Where the tie is kept, on each side as the list of the other: on a button its label, on the
+// label its buttons.
+constexpr char Gegenueber[] = "tafelkasse_beschriftung";
 
 using Bezug = QPair<QAccessibleInterface *, QAccessible::Relation>;
 
-// A control that a screen reader names by the text it shows, where no name of its own is set.
+// A control that a screen reader names by the text it shows, where no name of its own is set,
+// and that stands in `bezug` to each control across the tie.
 template<typename Steuerelement>
 class Benannt : public QAccessibleWidget {
 public:
-    Benannt(Steuerelement *steuerelement, QAccessible::Role rolle)
+    Benannt(Steuerelement *steuerelement, QAccessible::Role rolle, QAccessible::Relation bezug)
         : QAccessibleWidget(steuerelement, rolle)
+        , m_bezug(bezug)
     { }
 
     QString text(QAccessible::Text t) const override
     {
         QString text = QAccessibleWidget::text(t);
         if (t == QAccessible::Name && text.isEmpty())
-            text = steuerelement()->text();
+            text = Gesteuert()->text();
         return text;
     }
 
+    QList<Bezug> relations(QAccessible::Relation match) const override
+    {
+        QList<Bezug> bezuege = QAccessibleWidget::relations(match);
+        if (match & m_bezug) {
+            for (QObject *anderes : widget()->property(Gegenueber).value<QObjectList>())
+                bezuege.append({QAccessible::queryAccessibleInterface(anderes), m_bezug});
+        }
+        return bezuege;
+    }
+
 protected:
-    Steuerelement *steuerelement() const { return static_cast<Steuerelement *>(widget()); }
+    Steuerelement *Gesteuert() const { return static_cast<Steuerelement *>(widget()); }
+
+private:
+    const QAccessible::Relation m_bezug;
 };
 
 class Knopf final : public Benannt<QPushButton> {
 public:
     explicit Knopf(QPushButton *knopf)
-        : Benannt(knopf, QAccessible::Button)
+        : Benannt(knopf, QAccessible::Button, QAccessible::Label)
     { }
-
-    QList<Bezug> relations(QAccessible::Relation match) const override
-    {
-        QList<Bezug> bezuege = QAccessibleWidget::relations(match);
-        auto *label = steuerelement()->property(BeschriftetVon).value<QLabel *>();
-        if (match & QAccessible::Label && label)
-            bezuege.append({QAccessible::queryAccessibleInterface(label), QAccessible::Label});
-        return bezuege;
-    }
 
     QStringList actionNames() const override { return QAccessibleWidget::actionNames() << pressAction(); }
 
     void doAction(const QString &action) override
     {
         if (action == pressAction())
-            steuerelement()->click();
+            Gesteuert()->click();
         else
             QAccessibleWidget::doAction(action);
     }
@@ -64,25 +69,17 @@ public:
 class Schild final : public Benannt<QLabel> {
 public:
     explicit Schild(QLabel *label)
-        : Benannt(label, QAccessible::StaticText)
+        : Benannt(label, QAccessible::StaticText, QAccessible::Labelled)
     { }
-
-    QList<Bezug> relations(QAccessible::Relation match) const override
-    {
-        QList<Bezug> bezuege = QAccessibleWidget::relations(match);
-        if (match & QAccessible::Labelled) {
-            for (QObject *knopf : widget()->property(Beschriftet).value<QObjectList>())
-                bezuege.append({QAccessible::queryAccessibleInterface(knopf), QAccessible::Labelled});
-        }
-        return bezuege;
-    }
 };
 
-QAccessibleInterface *fabrik(const QString &, QObject *object)
+QAccessibleInterface *Fabrik(const QString &, QObject *object)
 {
-    if (auto *knopf = qobject_cast<QPushButton *>(object); knopf && knopf->property(BeschriftetVon).isValid())
+    if (!object || !object->property(Gegenueber).isValid())
+        return nullptr;
+    if (auto *knopf = qobject_cast<QPushButton *>(object))
         return new Knopf(knopf);
-    if (auto *label = qobject_cast<QLabel *>(object); label && label->property(Beschriftet).isValid())
+    if (auto *label = qobject_cast<QLabel *>(object))
         return new Schild(label);
     return nullptr;
 }
@@ -91,13 +88,13 @@ QAccessibleInterface *fabrik(const QString &, QObject *object)
 
 void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe)
 {
-    QAccessible::installFactory(fabrik);
+    QAccessible::installFactory(Fabrik);
     QObjectList liste;
     for (QPushButton *knopf : knoepfe) {
-        knopf->setProperty(BeschriftetVon, QVariant::fromValue(beschriftung));
+        knopf->setProperty(Gegenueber, QVariant::fromValue(QObjectList{beschriftung}));
         liste.append(knopf);
     }
-    beschriftung->setProperty(Beschriftet, QVariant::fromValue(liste));
+    beschriftung->setProperty(Gegenueber, QVariant::fromValue(liste));
     // Qt may have made and kept an interface for a widget while it was built; the next question
     // then gets one of ours.
     for (QObject *widget : liste + QObjectList{beschriftung}) {
