@@ -40,7 +40,7 @@ constexpr Fall Faelle[16] = {
 
 // The first case whose winner and East carry the names stored for game n. With two equal
 // names the lower-numbered player takes the role, since the cases are tried in order.
-const Fall *findeFall(const Abend &abend, std::int64_t n)
+const Fall *FindeFall(const Abend &abend, std::int64_t n)
 {
     for (const Fall &fall : Faelle) {
         if (NameGleich(abend.Mahjongg[n], abend.Spieler(fall.mahjongg))
@@ -59,7 +59,7 @@ void Rechnen(Abend &abend)
         return; // no game to settle; the commands never let it come to this
 
     // A stored name that matches no player leaves the turnovers as they stand.
-    if (const Fall *fall = findeFall(abend, n)) {
+    if (const Fall *fall = FindeFall(abend, n)) {
         for (int k = 1; k <= 4; ++k) {
             std::int64_t umsatz = 0;
             for (int j = 1; j <= 4; ++j)

@@ -32,7 +32,7 @@ void SchreibeStuecke(QTextDocument &dokument, const std::vector<Stueck> &stuecke
 
 namespace {
 
-void caretAnsEnde(QTextEdit &anzeige)
+void CaretAnsEnde(QTextEdit &anzeige)
 {
     QTextCursor cursor = anzeige.textCursor();
     cursor.movePosition(QTextCursor::End);
@@ -44,11 +44,11 @@ void caretAnsEnde(QTextEdit &anzeige)
 void SchreibeBlatt(QTextEdit &anzeige, const Blatt &blatt)
 {
     SchreibeStuecke(*anzeige.document(), blatt.Stuecke, blatt.Schrift);
-    caretAnsEnde(anzeige);
+    CaretAnsEnde(anzeige);
 }
 
 void SchreibeKopf(QTextEdit &anzeige, const std::vector<Stueck> &kopf)
 {
     SchreibeStuecke(*anzeige.document(), kopf, {});
-    caretAnsEnde(anzeige);
+    CaretAnsEnde(anzeige);
 }

@@ -28,7 +28,7 @@ public:
     Anker(QWidget *container, QSize entwurf);
 
     // Places the control at its coordinates and keeps it there by its locks from now on.
-    void setze(QWidget *control, QRect geometrie, unsigned locks);
+    void Setze(QWidget *control, QRect geometrie, unsigned locks);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -39,7 +39,7 @@ private:
         QRect geometrie;
         unsigned locks;
     };
-    void anwenden(const Eintrag &eintrag, QSize jetzt) const;
+    void Anwenden(const Eintrag &eintrag, QSize jetzt) const;
 
     QWidget *m_container;
     QSize m_entwurf;

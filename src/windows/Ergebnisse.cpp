@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-FormularLayout platzierung()
+FormularLayout Platzierung()
 {
     return {
         {523, 334},
@@ -28,7 +28,7 @@ FormularLayout platzierung()
 } // namespace
 
 Ergebnisse::Ergebnisse(QWidget *parent)
-    : ErgebnisFormular(platzierung(), parent)
+    : ErgebnisFormular(Platzierung(), parent)
 {
     setObjectName(u"Ergebnisse"_s);
 }

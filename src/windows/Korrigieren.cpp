@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-FormularLayout platzierung()
+FormularLayout Platzierung()
 {
     return {
         {519, 352},
@@ -28,7 +28,7 @@ FormularLayout platzierung()
 } // namespace
 
 Korrigieren::Korrigieren(QWidget *parent)
-    : ErgebnisFormular(platzierung(), parent)
+    : ErgebnisFormular(Platzierung(), parent)
 {
     setObjectName(u"Korrigieren"_s);
 }

@@ -111,7 +111,7 @@ void Namen::Abbruch_Name_Pressed()
 
 void Namen::OK_Name_Pressed()
 {
-    NamenForm form;
+    NamesForm form;
     const QLineEdit *const namen[] = {Name_1, Name_2, Name_3, Name_4};
     const QLineEdit *const uebertraege[] = {Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4};
     for (std::size_t k = 0; k < 4; ++k) {

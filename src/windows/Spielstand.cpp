@@ -92,7 +92,7 @@ void Spielstand::Layout()
     for (const auto &c : controls) {
         c.control->setParent(inhalt);
         c.control->setObjectName(QLatin1String(c.name));
-        anker->setze(c.control, c.geometrie, c.locks);
+        anker->Setze(c.control, c.geometrie, c.locks);
         // The tab order is the order of creation; the label takes no focus.
         if (c.control != Label1) {
             if (vorher)

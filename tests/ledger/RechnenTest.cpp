@@ -22,7 +22,7 @@ constexpr qint64 Max = std::numeric_limits<qint64>::max(), Min = std::numeric_li
 const QStringList Namen{"Anna", "Bert", "Carl", "Dora"};
 
 // Turnovers by the pair rule, then the balances built on `vorher`; money wraps in 64 bits.
-Vier nachRegel(int winner, int east, const Vier &s, const Vier &vorher)
+Vier NachRegel(int winner, int east, const Vier &s, const Vier &vorher)
 {
     Vier ergebnis = Vier(4, 0) + vorher;
     for (int a = 0; a < 4; ++a) {
@@ -46,7 +46,7 @@ struct Alarme final : platform::Installed<platform::BeepService>, platform::Inst
 // the turnovers `u`, and checks every row, read by field name, so that a mix-up of fields, a stray
 // write or a read of the wrong row shows. `rollen`: the names of winner and East, after the four
 // players' names where these are not Namen.
-void pruefe(const QStringList &rollen, const Vier &s, const Vier &v, const Vier &u, const Vier &erwartet,
+void Pruefe(const QStringList &rollen, const Vier &s, const Vier &v, const Vier &u, const Vier &erwartet,
             const QStringList &alarme = {}, std::int64_t n = 1)
 {
     const Alarme gehoert;
@@ -86,7 +86,7 @@ private Q_SLOTS:
             const int winner = i / 1200, east = i / 300 % 4, j = i % 300;
             const Vier s = j < 3 ? Vier(4, j == 0 ? 0 : j == 1 ? Max : Min) : Vier{zahl(), zahl(), zahl(), zahl()};
             const Vier vorher{zahl(), zahl(), zahl(), zahl()};
-            pruefe({Namen[winner], Namen[east]}, s, vorher, {1, 2, 3, 4}, nachRegel(winner, east, s, vorher), {},
+            Pruefe({Namen[winner], Namen[east]}, s, vorher, {1, 2, 3, 4}, NachRegel(winner, east, s, vorher), {},
                    i % HoechstesSpiel + 1);
             QVERIFY2(!QTest::currentTestFailed(),
                      qPrintable(u"Mah Jongg %1, East %2, set %3"_s.arg(winner + 1).arg(east + 1).arg(j)));
@@ -100,13 +100,13 @@ private Q_SLOTS:
         const QStringList alarm{u"beep"_s, u"Da ist ein Rechenfehler aufgetreten!"_s};
         const Vier s{30, 12, -7, 5}, c{50, -50, 0, 0}, s10{1, 2, 3, 4}, wrap{Max, Max, 1, 1};
         // Of two equal names the lower-numbered player takes the role.
-        pruefe({"Anna", "Anna", "Carl", "Dora", "Anna", "Carl"}, s, c, s10, nachRegel(0, 2, s, c));
-        pruefe({"Anna", "Bert", "Carl", "Bert", "Carl", "Bert"}, s, c, s10, nachRegel(2, 1, s, c));
+        Pruefe({"Anna", "Anna", "Carl", "Dora", "Anna", "Carl"}, s, c, s10, NachRegel(0, 2, s, c));
+        Pruefe({"Anna", "Bert", "Carl", "Bert", "Carl", "Bert"}, s, c, s10, NachRegel(2, 1, s, c));
         // A name of nobody, the winner's or East's, leaves the stale turnovers; only their sum, wrapped,
         // decides the alarm, and letter case counts.
-        pruefe({"Anna", "Zoe"}, s, c, wrap, wrap + Vier{Min + 49, Max - 50, 1, 1});
-        pruefe({"Zoe", "Anna"}, s, c, s10, s10 + Vier{51, -48, 3, 4}, alarm);
-        pruefe({"anna", "Anna"}, s, c, {Max, 1, 0, 0}, {Max, 1, 0, 0, Min + 49, -49, 0, 0}, alarm);
+        Pruefe({"Anna", "Zoe"}, s, c, wrap, wrap + Vier{Min + 49, Max - 50, 1, 1});
+        Pruefe({"Zoe", "Anna"}, s, c, s10, s10 + Vier{51, -48, 3, 4}, alarm);
+        Pruefe({"anna", "Anna"}, s, c, {Max, 1, 0, 0}, {Max, 1, 0, 0, Min + 49, -49, 0, 0}, alarm);
     }
 };
 
