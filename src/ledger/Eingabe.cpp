@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Eingabe.h"
+#include "ledger/Eingabe.h"
 
-#include "Rechnen.h"
+#include "ledger/Rechnen.h"
 #include "platform/Text.h"
 
 namespace {

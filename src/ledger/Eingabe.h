@@ -6,7 +6,7 @@
 // No input is ever refused: every text gives a number, and OK always counts.
 #pragma once
 
-#include "Modul1.h"
+#include "ledger/Modul1.h"
 
 #include <array>
 #include <string>

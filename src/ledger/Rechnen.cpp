@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Rechnen.h"
+#include "ledger/Rechnen.h"
 
-#include "Wrapping.h"
+#include "ledger/Wrapping.h"
 #include "platform/Beep.h"
 #include "platform/MessageBox.h"
 #include "platform/Text.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Blatt.h"
+#include "view/Blatt.h"
 
 #include "platform/Text.h"
 

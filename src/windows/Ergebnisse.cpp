@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Ergebnisse.h"
+#include "windows/Ergebnisse.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Menue.h"
+#include "windows/Menue.h"
 
-#include "Spielstand.h"
 #include "ledger/Modul1.h"
+#include "windows/Spielstand.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Namen.h"
+#include "windows/Namen.h"
 
 #include "ledger/Eingabe.h"
 #include "platform/QtText.h"

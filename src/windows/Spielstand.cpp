@@ -1,15 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Spielstand.h"
+#include "windows/Spielstand.h"
 
-#include "Achtung.h"
-#include "Anker.h"
-#include "Beschriftung.h"
-#include "Ergebnisse.h"
-#include "Korrigieren.h"
-#include "Menue.h"
-#include "Namen.h"
-#include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
 #include "platform/Beep.h"
@@ -18,6 +10,14 @@
 #include "platform/QtText.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
+#include "windows/Achtung.h"
+#include "windows/Anker.h"
+#include "windows/Beschriftung.h"
+#include "windows/Ergebnisse.h"
+#include "windows/Korrigieren.h"
+#include "windows/Menue.h"
+#include "windows/Namen.h"
+#include "windows/UeberTafelkasse.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

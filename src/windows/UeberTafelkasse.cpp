@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "UeberTafelkasse.h"
+#include "windows/UeberTafelkasse.h"
 
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"

@@ -5,8 +5,8 @@
 // page, line and column, with the lines wrapped at the block width and the pages filled with whole
 // lines, the block standing at the page's corner, and the bold and italic cuts of the font; and the
 // page range, copies and page order of the print dialog, as pages taken from the full printout.
-#include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
+#include "support/PrintDoubles.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
 

@@ -6,10 +6,10 @@
 // window, the menus, copying, printing, the locks and the keyboard. The random evening
 // (ZufallsabendTest) checks ledger, enabled controls and sheet after every action; the program's
 // own tests in an X server (tests/app) end it by "Quit", by the close box and by Ctrl+Q.
-#include "Doubles.h"
-#include "Modal.h"
-#include "PrintDoubles.h"
 #include "ledger/Eingabe.h"
+#include "support/Doubles.h"
+#include "support/Modal.h"
+#include "support/PrintDoubles.h"
 #include "windows/Spielstand.h"
 #include "windows/UeberTafelkasse.h"
 

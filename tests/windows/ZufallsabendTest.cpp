@@ -5,11 +5,11 @@
 // any field. A model follows what the user meant; after every action the ledger, the enabled
 // controls and the sheet must agree with it. TAFELKASSE_SEED replays a run, TAFELKASSE_ACTIONS
 // sets its length (5000).
-#include "Doubles.h"
-#include "Modal.h"
-#include "PrintDoubles.h"
-#include "SheetImage.h"
 #include "platform/Text.h"
+#include "support/Doubles.h"
+#include "support/Modal.h"
+#include "support/PrintDoubles.h"
+#include "support/SheetImage.h"
 #include "windows/Spielstand.h"
 
 #include <QAction>
