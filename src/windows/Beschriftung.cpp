@@ -36,7 +36,7 @@ public:
     {
         QList<Bezug> bezuege = QAccessibleWidget::relations(match);
         if (match & m_bezug) {
-            for (QObject *anderes : widget()->property(Gegenueber).value<QObjectList>())
+            for (QObject *anderes : qvariant_cast<QObjectList>(widget()->property(Gegenueber)))
                 bezuege.append({QAccessible::queryAccessibleInterface(anderes), m_bezug});
         }
         return bezuege;
