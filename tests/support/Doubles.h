@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Stand-ins for the machine, installed by a test for as long as the object lives, as main()
-// installs the desktop's services: a beep
-// counter, a font list of the test's choosing and a clock that stands still.
+// Stand-ins for the machine, each installed by a test for as long as it lives, as main() installs
+// the desktop's services: a beep counter, a font list of the test's choosing and a clock that
+// stands still.
 #pragma once
 
 #include "platform/Beep.h"
