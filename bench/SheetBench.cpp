@@ -10,7 +10,6 @@
 #include "ledger/Eingabe.h"
 #include "platform/QtServices.h"
 #include "platform/QtText.h"
-#include "platform/System.h"
 #include "view/Blatt.h"
 #include "view/Drucken.h"
 #include "windows/Spielstand.h"
@@ -31,10 +30,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The evening starts on 12 March 2021 at 19:30 in every run, so the head is always as long.
-class FixedClock final : public platform::ClockService {
+class FixedClock final : public platform::Installed<platform::ClockService> {
 public:
-    FixedClock() { platform::install(this); }
-    ~FixedClock() override { platform::install(static_cast<platform::ClockService *>(nullptr)); }
     DateTime now() override { return {1615573800000}; }
 };
 

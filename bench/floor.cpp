@@ -33,6 +33,8 @@ int main(int argc, char *argv[])
     auto *text = new QTextEdit(inhalt);
     text->setGeometry(-1, 72, 898, 484);
     text->setReadOnly(true);
+    // The table as the window's, one button a line.
+    // clang-format off
     const struct {
         const char *titel;
         QRect geometrie;
@@ -47,6 +49,7 @@ int main(int argc, char *argv[])
         {"größer", {286, 576, 80, 20}},
         {"Quit", {730, 576, 138, 20}},
     };
+    // clang-format on
     for (const auto &k : knoepfe)
         (new QPushButton(QString::fromUtf8(k.titel), inhalt))->setGeometry(k.geometrie);
     (new QLabel(QStringLiteral("Darstellung:"), inhalt))->setGeometry(30, 576, 91, 20);

@@ -4,9 +4,10 @@
 #
 # One entry point for a fresh Debian 12 machine:
 #   scripts/dev.sh run      installs what is missing, builds the program, starts Tafelkasse
-#   scripts/dev.sh test     installs what is missing, builds the normal, sanitizer and fuzz
-#                           configurations, runs every test in them and the static analysis
-#   scripts/dev.sh analyse  the static analysis alone
+#   scripts/dev.sh test     installs what is missing, checks the format and the scripts, builds
+#                           the normal, sanitizer and fuzz configurations, runs every test in
+#                           them and the static analysis
+#   scripts/dev.sh analyse  the format, the scripts and the static analysis alone
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
@@ -17,7 +18,7 @@ packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l
 packages_test=(xvfb xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi imagemagick poppler-utils fonts-dejavu-core fonts-urw-base35 python3 strace dbus-daemon
     desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
     build-essential debhelper lintian devscripts blhc)
-packages_analysis=(clang-tidy-14 clazy)
+packages_analysis=(clang-tidy-14 clazy clang-format-14 shellcheck)
 
 source "$top/scripts/install-missing.sh"
 
@@ -55,6 +56,18 @@ analyse() {
     echo "clang-tidy and clazy: no findings in ${#sources[@]} files of src/ ($((SECONDS - start)) s)"
 }
 
+# Every C++ file as .clang-format has it, and every script without a finding of shellcheck
+# (.shellcheckrc lets it follow what a script sources). Any difference or finding fails.
+check_style() {
+    local cxx scripts
+    mapfile -t cxx < <(find src tests bench \( -name '*.cpp' -o -name '*.h' \) | sort)
+    mapfile -t scripts < <(find scripts tests/app bench -name '*.sh' | sort)
+    scripts+=(.ci/run)
+    clang-format-14 --dry-run --Werror "${cxx[@]}"
+    shellcheck "${scripts[@]}"
+    echo "clang-format and shellcheck: no findings in ${#cxx[@]} C++ files and ${#scripts[@]} scripts"
+}
+
 case "${1:-}" in
 run)
     install_missing "${packages_build[@]}"
@@ -64,6 +77,7 @@ run)
     ;;
 test)
     install_missing "${packages_build[@]}" "${packages_test[@]}" "${packages_analysis[@]}"
+    check_style
     configure build "${normal[@]}" -DTAFELKASSE_WERROR=ON
     build build
     ctest --test-dir "$top/build" --output-on-failure --parallel "$jobs"
@@ -86,6 +100,7 @@ test)
 analyse)
     install_missing "${packages_build[@]}" "${packages_analysis[@]}"
     configure build "${normal[@]}"
+    check_style
     build build --target tafelkasse # the analysis needs the files that moc writes
     analyse
     ;;

@@ -4,7 +4,6 @@
 // Start-up in its fixed order: the evening's ledger exists before anything else (it is a
 // global), then the application with the desktop's services, then the one main window,
 // which takes its date and default names before it first draws the sheet.
-#include "platform/PrintDialog.h"
 #include "platform/QtServices.h"
 #include "windows/Spielstand.h"
 
@@ -34,11 +33,12 @@ int main(int argc, char *argv[])
     if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_s, u"_"_s,
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&qtTexte);
+    // The desktop's beep, dates, fonts and message box for the whole run, and the print dialog over
+    // the main window; the clock is the system's.
     platform::QtServices dienste;
 
     Spielstand fenster;
     platform::QtPrintDialog druckdialog(&fenster);
-    platform::install(&druckdialog);
     fenster.show();
     return QApplication::exec();
 }

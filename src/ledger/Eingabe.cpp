@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Eingabe.h"
+#include "ledger/Eingabe.h"
 
-#include "Rechnen.h"
+#include "ledger/Rechnen.h"
 #include "platform/Text.h"
 
 namespace {
 
-void zeileSchreiben(Abend &abend, std::int64_t n, const ResultForm &form)
+void ZeileSchreiben(Abend &abend, std::int64_t n, const ResultForm &form)
 {
     abend.Mahjongg[n] = NameDerWahl(abend, form.MahjonggChoice);
     abend.Osten[n] = NameDerWahl(abend, form.OstenChoice);
@@ -38,7 +38,7 @@ void Ergebnisse_OK(Abend &abend, const ResultForm &form)
         return;
     abend.Gute_Eingabe = true;
     abend.Spiel_Nr += 1;
-    zeileSchreiben(abend, abend.Spiel_Nr, form);
+    ZeileSchreiben(abend, abend.Spiel_Nr, form);
     Rechnen(abend);
 }
 
@@ -47,7 +47,7 @@ void Korrigieren_OK(Abend &abend, const ResultForm &form)
     if (abend.Spiel_Nr < 1 || abend.Spiel_Nr > HoechstesSpiel)
         return;
     abend.Gute_Eingabe = true;
-    zeileSchreiben(abend, abend.Spiel_Nr, form);
+    ZeileSchreiben(abend, abend.Spiel_Nr, form);
     Rechnen(abend);
 }
 
@@ -69,7 +69,7 @@ ResultForm KorrekturFormular(const Abend &abend)
     return form;
 }
 
-void Namen_OK(Abend &abend, const NamenForm &form)
+void Namen_OK(Abend &abend, const NamesForm &form)
 {
     for (int k = 1; k <= 4; ++k) {
         const std::string &name = form.Name[k - 1];

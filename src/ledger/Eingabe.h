@@ -6,7 +6,7 @@
 // No input is ever refused: every text gives a number, and OK always counts.
 #pragma once
 
-#include "Modul1.h"
+#include "ledger/Modul1.h"
 
 #include <array>
 #include <string>
@@ -19,7 +19,7 @@ struct ResultForm {
 };
 
 // What the names dialog holds when OK is pressed.
-struct NamenForm {
+struct NamesForm {
     std::array<std::string, 4> Name; // empty gives the player's default name back
     std::array<std::string, 4> Uebertrag; // carry-over texts
 };
@@ -44,4 +44,4 @@ void Eingabe_Abbruch(Abend &abend);
 ResultForm KorrekturFormular(const Abend &abend);
 
 // OK in the names dialog: the four names in turn, then the four carry-overs into row 0.
-void Namen_OK(Abend &abend, const NamenForm &form);
+void Namen_OK(Abend &abend, const NamesForm &form);

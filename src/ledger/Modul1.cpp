@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Modul1.h"
+#include "ledger/Modul1.h"
 
-#include "platform/System.h"
+#include "platform/Fonts.h"
 #include "platform/Text.h"
 
 namespace {
 
 // The four fields of a player, picked by number; anything but 1 to 3 is player 4.
 template<typename Self>
-auto &waehle(Self &a, auto Abend::*f1, auto Abend::*f2, auto Abend::*f3, auto Abend::*f4, int k)
+auto &Waehle(Self &a, auto Abend::*f1, auto Abend::*f2, auto Abend::*f3, auto Abend::*f4, int k)
 {
     switch (k) {
     case 1:
@@ -27,42 +27,42 @@ auto &waehle(Self &a, auto Abend::*f1, auto Abend::*f2, auto Abend::*f3, auto Ab
 
 const std::string &Abend::Spieler(int k) const
 {
-    return waehle(*this, &Abend::Spieler1, &Abend::Spieler2, &Abend::Spieler3, &Abend::Spieler4, k);
+    return Waehle(*this, &Abend::Spieler1, &Abend::Spieler2, &Abend::Spieler3, &Abend::Spieler4, k);
 }
 
 std::string &Abend::Spieler(int k)
 {
-    return waehle(*this, &Abend::Spieler1, &Abend::Spieler2, &Abend::Spieler3, &Abend::Spieler4, k);
+    return Waehle(*this, &Abend::Spieler1, &Abend::Spieler2, &Abend::Spieler3, &Abend::Spieler4, k);
 }
 
 ProSpiel<std::int64_t> &Abend::Ergebnis(int k)
 {
-    return waehle(*this, &Abend::Ergebnis_1, &Abend::Ergebnis_2, &Abend::Ergebnis_3, &Abend::Ergebnis_4, k);
+    return Waehle(*this, &Abend::Ergebnis_1, &Abend::Ergebnis_2, &Abend::Ergebnis_3, &Abend::Ergebnis_4, k);
 }
 
 const ProSpiel<std::int64_t> &Abend::Ergebnis(int k) const
 {
-    return waehle(*this, &Abend::Ergebnis_1, &Abend::Ergebnis_2, &Abend::Ergebnis_3, &Abend::Ergebnis_4, k);
+    return Waehle(*this, &Abend::Ergebnis_1, &Abend::Ergebnis_2, &Abend::Ergebnis_3, &Abend::Ergebnis_4, k);
 }
 
 ProSpiel<std::int64_t> &Abend::Umsatz(int k)
 {
-    return waehle(*this, &Abend::Umsatz_1, &Abend::Umsatz_2, &Abend::Umsatz_3, &Abend::Umsatz_4, k);
+    return Waehle(*this, &Abend::Umsatz_1, &Abend::Umsatz_2, &Abend::Umsatz_3, &Abend::Umsatz_4, k);
 }
 
 const ProSpiel<std::int64_t> &Abend::Umsatz(int k) const
 {
-    return waehle(*this, &Abend::Umsatz_1, &Abend::Umsatz_2, &Abend::Umsatz_3, &Abend::Umsatz_4, k);
+    return Waehle(*this, &Abend::Umsatz_1, &Abend::Umsatz_2, &Abend::Umsatz_3, &Abend::Umsatz_4, k);
 }
 
 ProSpiel<std::int64_t> &Abend::Stand(int k)
 {
-    return waehle(*this, &Abend::Stand_1, &Abend::Stand_2, &Abend::Stand_3, &Abend::Stand_4, k);
+    return Waehle(*this, &Abend::Stand_1, &Abend::Stand_2, &Abend::Stand_3, &Abend::Stand_4, k);
 }
 
 const ProSpiel<std::int64_t> &Abend::Stand(int k) const
 {
-    return waehle(*this, &Abend::Stand_1, &Abend::Stand_2, &Abend::Stand_3, &Abend::Stand_4, k);
+    return Waehle(*this, &Abend::Stand_1, &Abend::Stand_2, &Abend::Stand_3, &Abend::Stand_4, k);
 }
 
 std::string StandardName(int k)
@@ -73,11 +73,16 @@ std::string StandardName(int k)
 bool FontAvailable(std::string_view name)
 {
     // The count is asked anew at each pass, as the list may change while we look.
-    for (int i = 0; i <= System::FontCount() - 1; ++i) {
-        if (NameGleich(System::FontAt(i), name))
+    for (int i = 0; i <= platform::FontCount() - 1; ++i) {
+        if (NameGleich(platform::FontAt(i), name))
             return true;
     }
     return false;
+}
+
+std::string SchriftOderSystem(std::string_view name)
+{
+    return std::string(FontAvailable(name) ? name : platform::SystemFont);
 }
 
 Freigabe FreigabeBei(std::int64_t spielNr)

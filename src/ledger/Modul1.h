@@ -57,6 +57,10 @@ std::string StandardName(int k);
 // Whether a font of that name is installed, asked of the platform's font list.
 bool FontAvailable(std::string_view name);
 
+// The one choice of a font, for the sheet ("Courier") and the about window ("Palatino"): the
+// named font where it is installed, else the desktop's general font, platform::SystemFont.
+std::string SchriftOderSystem(std::string_view name);
+
 // What the evening offers at a number of games: names and carry-overs only before the first
 // game, a new game while a row is left, correction and restart once there is a game.
 struct Freigabe {

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Rechnen.h"
+#include "ledger/Rechnen.h"
 
-#include "Wrapping.h"
-#include "platform/System.h"
+#include "ledger/Wrapping.h"
+#include "platform/Beep.h"
+#include "platform/MessageBox.h"
 #include "platform/Text.h"
 
 namespace {
@@ -39,7 +40,7 @@ constexpr Fall Faelle[16] = {
 
 // The first case whose winner and East carry the names stored for game n. With two equal
 // names the lower-numbered player takes the role, since the cases are tried in order.
-const Fall *findeFall(const Abend &abend, std::int64_t n)
+const Fall *FindeFall(const Abend &abend, std::int64_t n)
 {
     for (const Fall &fall : Faelle) {
         if (NameGleich(abend.Mahjongg[n], abend.Spieler(fall.mahjongg))
@@ -58,7 +59,7 @@ void Rechnen(Abend &abend)
         return; // no game to settle; the commands never let it come to this
 
     // A stored name that matches no player leaves the turnovers as they stand.
-    if (const Fall *fall = findeFall(abend, n)) {
+    if (const Fall *fall = FindeFall(abend, n)) {
         for (int k = 1; k <= 4; ++k) {
             std::int64_t umsatz = 0;
             for (int j = 1; j <= 4; ++j)
@@ -71,8 +72,8 @@ void Rechnen(Abend &abend)
     for (int k = 1; k <= 4; ++k)
         summe = wrapping_add(summe, abend.Umsatz(k)[n]);
     if (summe != 0) {
-        System::Beep();
-        MessageBox(Rechenfehler);
+        platform::Beep();
+        platform::MessageBox(Rechenfehler);
     }
 
     for (int k = 1; k <= 4; ++k)

@@ -5,7 +5,7 @@
 // of the last game, what each player receives or pays, and the new balances.
 #pragma once
 
-#include "Modul1.h"
+#include "ledger/Modul1.h"
 
 // The one message of the program's own: a game whose turnovers do not add up to 0.
 inline constexpr std::string_view Rechenfehler = "Da ist ein Rechenfehler aufgetreten!";

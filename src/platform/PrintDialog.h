@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The system's print dialog as a service: it asks the user where and how to print and sets
-// up the printer accordingly. main() installs the desktop's dialog; a test installs a double
-// that answers at once, so printing can be tried without anybody at the screen. Until a
+// up the printer accordingly. The desktop's dialog is QtPrintDialog; a test installs a double
+// that answers at once, so printing can be tried without anybody at the screen. While no
 // dialog is installed, every print is cancelled.
 #pragma once
 
-#include "System.h"
-
-#include <QPointer>
-#include <QWidget>
+#include "platform/Service.h"
 
 class QPrinter;
 
@@ -22,24 +19,7 @@ public:
     virtual bool exec(QPrinter &printer) = 0;
 };
 
-// Installs the dialog for the rest of the run, or until the next install; nullptr puts back
-// the default that cancels. The caller keeps the object alive while it is installed.
-void install(PrintDialogService *service);
-
-// The dialog of the desktop: Qt's print dialog over the window that prints, so that the desktop
-// keeps the two together (on Wayland a dialog without a parent stands alone).
-class QtPrintDialog final : public PrintDialogService {
-public:
-    explicit QtPrintDialog(QWidget *parent)
-        : m_parent(parent)
-    { }
-    bool exec(QPrinter &printer) override;
-
-private:
-    QPointer<QWidget> m_parent;
-};
-
-} // namespace platform
-
 // Opens the installed print dialog; false when the user cancelled.
 bool OpenPrinterDialog(QPrinter &printer);
+
+} // namespace platform

@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "QtServices.h"
+#include "platform/QtServices.h"
 
-#include "QtText.h"
+#include "platform/QtText.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QFontDatabase>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -86,34 +88,14 @@ std::string QtDateFormat::format(DateTime moment)
     return utf8(locale.toString(QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch), muster));
 }
 
-QtServices::QtServices()
+bool QtPrintDialog::exec(QPrinter &printer)
 {
-    install(&m_beep);
-    install(&m_messages);
-    install(&m_fonts);
-    install(&m_dates);
-}
-
-QtServices::~QtServices()
-{
-    install(static_cast<BeepService *>(nullptr));
-    install(static_cast<MessageService *>(nullptr));
-    install(static_cast<FontService *>(nullptr));
-    install(static_cast<DateFormatService *>(nullptr));
-}
-
-QString fontFamily(std::string_view name)
-{
-    if (name == "system" || name == "System")
-        return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
-    return qs(name);
-}
-
-QFont font(std::string_view name, qreal pointSize)
-{
-    QFont f(fontFamily(name));
-    f.setPointSizeF(pointSize);
-    return f;
+    QPrintDialog dialog(&printer, m_parent);
+    // What the printing honours, and only that: a page range, copies and their collation, the
+    // page order and the paper. The sheet has no selection and no current page to print.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
+                      | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace platform

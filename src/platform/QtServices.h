@@ -2,21 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The desktop's side of the platform services: the beep of the desktop, a message box over
-// the active window, the fonts that Qt's font database knows, and the locale's dates.
+// the active window, the fonts that Qt's font database knows, the locale's dates and Qt's
+// print dialog. Each is installed for as long as it lives; QtServices holds them all.
 #pragma once
 
-#include "System.h"
+#include "platform/Beep.h"
+#include "platform/DateTime.h"
+#include "platform/Fonts.h"
+#include "platform/MessageBox.h"
+#include "platform/PrintDialog.h"
 
+#include <QPointer>
 #include <QStringList>
+#include <QWidget>
 
 namespace platform {
 
-class QtBeep final : public BeepService {
+class QtBeep final : public Installed<BeepService> {
 public:
     void beep() override;
 };
 
-class QtMessageBox final : public MessageService {
+class QtMessageBox final : public Installed<MessageService> {
 public:
     void show(std::string_view text) override;
 };
@@ -24,7 +31,7 @@ public:
 // The installed font families, each under its own name once, whichever foundries make it;
 // read once: the list does not change during an evening, and asking Qt anew for each of the
 // hundreds of families would cost at every refresh.
-class QtFonts final : public FontService {
+class QtFonts final : public Installed<FontService> {
 public:
     int count() override;
     std::string at(int index) override;
@@ -38,24 +45,32 @@ private:
 // Date and time of day as the user's locale writes them, with the year in full and the
 // seconds but without the time zone: in German "12.03.2021, 19:30:00", in American English
 // "3/12/2021, 7:30:00 PM". Qt's own locale tables serve, which the program has loaded anyway.
-class QtDateFormat final : public DateFormatService {
+class QtDateFormat final : public Installed<DateFormatService> {
 public:
     std::string format(DateTime moment) override;
 };
 
-// All of the above, installed for as long as the object lives.
-class QtServices {
+// The dialog of the desktop: Qt's print dialog over the window that prints, so that the desktop
+// keeps the two together (on Wayland a dialog without a parent stands alone). Made with that
+// window, after it.
+class QtPrintDialog final : public Installed<PrintDialogService> {
 public:
-    QtServices();
-    ~QtServices();
-    QtServices(const QtServices &) = delete;
-    QtServices &operator=(const QtServices &) = delete;
+    explicit QtPrintDialog(QWidget *parent)
+        : m_parent(parent)
+    { }
+    bool exec(QPrinter &printer) override;
 
 private:
-    QtBeep m_beep;
-    QtMessageBox m_messages;
-    QtFonts m_fonts;
-    QtDateFormat m_dates;
+    QPointer<QWidget> m_parent;
+};
+
+// All of the above but the print dialog, which comes with its window, installed for as long as
+// the object lives.
+struct QtServices {
+    QtBeep beep;
+    QtMessageBox messages;
+    QtFonts fonts;
+    QtDateFormat dates;
 };
 
 } // namespace platform

@@ -23,8 +23,8 @@ inline std::string utf8(const QString &text)
 
 namespace platform {
 
-// The family behind a font name of the program: "system" and "System" stand for the
-// desktop's general font, any other name for itself.
+// The family behind a font name of the program: SystemFont stands for the desktop's general
+// font, any other name for itself.
 QString fontFamily(std::string_view name);
 
 // A font of that name and point size.

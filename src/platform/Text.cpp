@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Text.h"
+#include "platform/Text.h"
 
 #include <charconv>
 #include <cmath>

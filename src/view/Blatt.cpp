@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Blatt.h"
+#include "view/Blatt.h"
 
 #include "platform/Text.h"
 
@@ -61,7 +61,7 @@ Blatt Dokument(const Abend &abend, const Ueberschriften &zeilen, std::string_vie
 
 std::string BlattSchrift()
 {
-    return FontAvailable("Courier") ? "Courier" : "system";
+    return SchriftOderSystem("Courier");
 }
 
 std::string Volltext(const std::vector<Stueck> &stuecke)

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "BlattSchreiben.h"
+#include "view/BlattSchreiben.h"
 
 #include "platform/QtText.h"
 
@@ -76,7 +76,7 @@ void SchreibeStuecke(QTextDocument &dokument, const std::vector<Stueck> &stuecke
 
 namespace {
 
-void caretAnsEnde(QTextEdit &anzeige)
+void CaretAnsEnde(QTextEdit &anzeige)
 {
     QTextCursor cursor = anzeige.textCursor();
     cursor.movePosition(QTextCursor::End);
@@ -88,11 +88,11 @@ void caretAnsEnde(QTextEdit &anzeige)
 void SchreibeBlatt(QTextEdit &anzeige, const Blatt &blatt)
 {
     SchreibeStuecke(*anzeige.document(), blatt.Stuecke, blatt.Schrift);
-    caretAnsEnde(anzeige);
+    CaretAnsEnde(anzeige);
 }
 
 void SchreibeKopf(QTextEdit &anzeige, const std::vector<Stueck> &kopf)
 {
     SchreibeStuecke(*anzeige.document(), kopf, {});
-    caretAnsEnde(anzeige);
+    CaretAnsEnde(anzeige);
 }

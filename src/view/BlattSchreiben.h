@@ -6,7 +6,7 @@
 // applies to the whole sheet and survives every rewrite.
 #pragma once
 
-#include "Blatt.h"
+#include "view/Blatt.h"
 
 class QTextDocument;
 class QTextEdit;

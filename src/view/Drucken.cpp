@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Drucken.h"
+#include "view/Drucken.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Achtung.h"
+#include "windows/Achtung.h"
 
-#include "Tabellenmass.h"
+#include "windows/Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
 

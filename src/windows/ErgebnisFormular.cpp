@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ErgebnisFormular.h"
+#include "windows/ErgebnisFormular.h"
 
-#include "Tabellenmass.h"
+#include "windows/Tabellenmass.h"
 #include "platform/QtText.h"
 
 #include <QGroupBox>
@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The player whose button is on: the first of players 1 to 3, else player 4.
-int gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
+int Gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
 {
     for (int k = 0; k < 3; ++k) {
         if (gruppe[k]->isChecked())
@@ -30,7 +30,7 @@ int gewaehlt(const std::array<QRadioButton *, 4> &gruppe)
 }
 
 // Radio buttons stand inside their group box, whose own place is given in window coordinates.
-QRect innerhalb(QRect geometrie, QRect box)
+QRect Innerhalb(QRect geometrie, QRect box)
 {
     return geometrie.translated(-box.topLeft());
 }
@@ -57,10 +57,10 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
         const QString nummer = QString::number(k + 1);
         Mahjongg[k] = new QRadioButton(u"Mah Jongg"_s, GroupBox1);
         Mahjongg[k]->setObjectName(u"Mahjongg_"_s + nummer);
-        Mahjongg[k]->setGeometry(innerhalb(layout.mahjongg[k], layout.groupBox1));
+        Mahjongg[k]->setGeometry(Innerhalb(layout.mahjongg[k], layout.groupBox1));
         Osten[k] = new QRadioButton(u"Osten"_s, GroupBox2);
         Osten[k]->setObjectName(u"Osten_"_s + nummer);
-        Osten[k]->setGeometry(innerhalb(layout.osten[k], layout.groupBox2));
+        Osten[k]->setGeometry(Innerhalb(layout.osten[k], layout.groupBox2));
     }
     Mahjongg[0]->setChecked(true);
     Osten[0]->setChecked(true);
@@ -148,7 +148,7 @@ bool ErgebnisFormular::focusNextPrevChild(bool next)
     for (const auto &gruppe : {Mahjongg, Osten}) {
         const auto drin = [&gruppe](QWidget *w) { return std::find(gruppe.begin(), gruppe.end(), w) != gruppe.end(); };
         if (drin(ziel) && !drin(*hier))
-            ziel = gruppe[static_cast<std::size_t>(gewaehlt(gruppe) - 1)];
+            ziel = gruppe[static_cast<std::size_t>(Gewaehlt(gruppe) - 1)];
     }
     ziel->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
@@ -159,8 +159,8 @@ ResultForm ErgebnisFormular::Formular() const
     ResultForm form;
     for (int k = 0; k < 4; ++k)
         form.ScoreText[k] = utf8(Felder[k]->text());
-    form.MahjonggChoice = gewaehlt(Mahjongg);
-    form.OstenChoice = gewaehlt(Osten);
+    form.MahjonggChoice = Gewaehlt(Mahjongg);
+    form.OstenChoice = Gewaehlt(Osten);
     return form;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Ergebnisse.h"
+#include "windows/Ergebnisse.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-FormularLayout platzierung()
+FormularLayout Platzierung()
 {
     return {
         {523, 334},
@@ -28,7 +28,7 @@ FormularLayout platzierung()
 } // namespace
 
 Ergebnisse::Ergebnisse(QWidget *parent)
-    : ErgebnisFormular(platzierung(), parent)
+    : ErgebnisFormular(Platzierung(), parent)
 {
     setObjectName(u"Ergebnisse"_s);
 }

@@ -5,7 +5,7 @@
 // and what each hand scored. It opens empty on player 1; OK adds the game and settles it.
 #pragma once
 
-#include "ErgebnisFormular.h"
+#include "windows/ErgebnisFormular.h"
 
 class Ergebnisse : public ErgebnisFormular {
     Q_OBJECT

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Korrigieren.h"
+#include "windows/Korrigieren.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-FormularLayout platzierung()
+FormularLayout Platzierung()
 {
     return {
         {519, 352},
@@ -28,7 +28,7 @@ FormularLayout platzierung()
 } // namespace
 
 Korrigieren::Korrigieren(QWidget *parent)
-    : ErgebnisFormular(platzierung(), parent)
+    : ErgebnisFormular(Platzierung(), parent)
 {
     setObjectName(u"Korrigieren"_s);
 }

@@ -5,7 +5,7 @@
 // settles it again. Older games cannot be changed.
 #pragma once
 
-#include "ErgebnisFormular.h"
+#include "windows/ErgebnisFormular.h"
 
 class Korrigieren : public ErgebnisFormular {
     Q_OBJECT

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Menue.h"
+#include "windows/Menue.h"
 
-#include "Spielstand.h"
 #include "ledger/Modul1.h"
+#include "windows/Spielstand.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
@@ -184,7 +183,7 @@ void Menue::AblageDrucken_Action()
 
 void Menue::FileQuit_Action()
 {
-    QCoreApplication::exit(0);
+    m_fenster.Quit();
 }
 
 void Menue::EditUndo_Action()

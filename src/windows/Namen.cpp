@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Namen.h"
+#include "windows/Namen.h"
 
-#include "Tabellenmass.h"
+#include "windows/Tabellenmass.h"
 #include "ledger/Eingabe.h"
 #include "platform/QtText.h"
 
@@ -113,7 +113,7 @@ void Namen::Abbruch_Name_Pressed()
 
 void Namen::OK_Name_Pressed()
 {
-    NamenForm form;
+    NamesForm form;
     const QLineEdit *const namen[] = {Name_1, Name_2, Name_3, Name_4};
     const QLineEdit *const uebertraege[] = {Uebertrag_1, Uebertrag_2, Uebertrag_3, Uebertrag_4};
     for (std::size_t k = 0; k < 4; ++k) {

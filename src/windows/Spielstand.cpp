@@ -1,23 +1,24 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Spielstand.h"
+#include "windows/Spielstand.h"
 
-#include "Achtung.h"
-#include "Ergebnisse.h"
-#include "Korrigieren.h"
-#include "Menue.h"
-#include "Namen.h"
-#include "Tabellenmass.h"
-#include "UeberTafelkasse.h"
 #include "ledger/Eingabe.h"
 #include "ledger/Rechnen.h"
-#include "platform/Anker.h"
-#include "platform/Beschriftung.h"
+#include "platform/Beep.h"
+#include "platform/Fonts.h"
 #include "platform/PrintDialog.h"
 #include "platform/QtText.h"
-#include "platform/System.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
+#include "windows/Achtung.h"
+#include "windows/Anker.h"
+#include "windows/Beschriftung.h"
+#include "windows/Ergebnisse.h"
+#include "windows/Korrigieren.h"
+#include "windows/Menue.h"
+#include "windows/Namen.h"
+#include "windows/Tabellenmass.h"
+#include "windows/UeberTafelkasse.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -28,7 +29,6 @@
 #include <QTextEdit>
 
 using namespace Qt::StringLiterals;
-using namespace platform;
 
 namespace {
 constexpr QSize Inhalt{896, 616};
@@ -93,7 +93,7 @@ void Spielstand::Layout()
     for (const auto &c : controls) {
         c.control->setParent(inhalt);
         c.control->setObjectName(QLatin1String(c.name));
-        anker->setze(c.control, c.geometrie, c.locks);
+        anker->Setze(c.control, c.geometrie, c.locks);
         // The tab order is the order of creation; the label takes no focus.
         if (c.control != Label1) {
             if (vorher)
@@ -125,7 +125,7 @@ void Spielstand::Layout()
     Anzeige->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Anzeige->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Anzeige->setLineWrapMode(QTextEdit::WidgetWidth);
-    Anzeige->setFont(platform::font("system", LayoutSchriftgroesse));
+    Anzeige->setFont(platform::font(platform::SystemFont, LayoutSchriftgroesse));
     // Tab leaves the sheet, so that the keyboard can reach the buttons from it.
     Anzeige->setTabChangesFocus(true);
     // A selection shows only while the sheet has the focus.
@@ -151,7 +151,7 @@ void Spielstand::Event_Opening()
 {
     Modul1.Tagesdatum = DateTime::Now();
     QFont schrift = Anzeige->font();
-    schrift.setFamily(FontAvailable("Courier") ? u"Courier"_s : platform::fontFamily("System"));
+    schrift.setFamily(platform::fontFamily(BlattSchrift()));
     Anzeige->setFont(schrift);
     Textgroesse = static_cast<std::int64_t>(Anzeige->font().pointSizeF());
     for (int k = 1; k <= 4; ++k)
@@ -203,17 +203,30 @@ void Spielstand::showEvent(QShowEvent *event)
 void Spielstand::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    Quit();
+}
+
+void Spielstand::Quit()
+{
     QCoreApplication::exit(0);
+}
+
+void Spielstand::ModalZeigen(QDialog &dialog, const std::function<void()> &danach)
+{
+    dialog.exec();
+    if (danach)
+        danach();
+    // Qt does not activate the main window again when a modal dialog closes, so the refresh
+    // runs here, once the dialog, its handler and the step after it are done: it shows a new
+    // game, new names, or the buttons of an empty evening after a restart.
+    Event_Activated();
 }
 
 void Spielstand::ErgebnisseEingeben()
 {
     Ergebnisse dialog(this);
     dialog.SpielerSetzen(Modul1);
-    dialog.exec();
-    // Qt does not activate the main window again when a modal dialog closes, so the
-    // refresh that shows the new game runs here, once the dialog and its handler are done.
-    Event_Activated();
+    ModalZeigen(dialog);
 }
 
 void Spielstand::LetztesSpielKorrigieren()
@@ -221,22 +234,20 @@ void Spielstand::LetztesSpielKorrigieren()
     Korrigieren dialog(this);
     dialog.SpielerSetzen(Modul1);
     dialog.FormularSetzen(KorrekturFormular(Modul1));
-    dialog.exec();
-    if (Modul1.Gute_Eingabe)
-        Rechnen(Modul1);
-    Event_Activated();
+    ModalZeigen(dialog, [] {
+        if (Modul1.Gute_Eingabe)
+            Rechnen(Modul1);
+    });
 }
 
 void Spielstand::NeustartFragen()
 {
-    System::Beep();
+    platform::Beep();
     Achtung dialog(this);
-    dialog.exec();
-    if (Modul1.DruckKnopf == 1)
-        Neustart();
-    // Neustart writes the head but leaves the buttons; the refresh that Qt does not send
-    // after a modal dialog brings them in line with the empty evening.
-    Event_Activated();
+    ModalZeigen(dialog, [this] {
+        if (Modul1.DruckKnopf == 1)
+            Neustart();
+    });
 }
 
 void Spielstand::UeberZeigen()
@@ -254,10 +265,7 @@ void Spielstand::UeberZeigen()
 void Spielstand::NamenEingeben()
 {
     Namen dialog(this);
-    dialog.exec();
-    // The sheet takes up the new names and carry-overs at the refresh, which Qt does not
-    // start by itself when a modal dialog closes.
-    Event_Activated();
+    ModalZeigen(dialog);
 }
 
 void Spielstand::Drucken()
@@ -269,7 +277,7 @@ void Spielstand::Drucken()
         = QDateTime::fromMSecsSinceEpoch(Modul1.Tagesdatum.value_or(DateTime{}).millisecondsSinceEpoch);
     printer.setDocName(u"Tafelkasse "_s + beginn.date().toString(Qt::ISODate));
     printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
-    if (OpenPrinterDialog(printer))
+    if (platform::OpenPrinterDialog(printer))
         DruckeBlatt(*Anzeige->document(), printer);
 }
 
@@ -295,7 +303,7 @@ void Spielstand::Korrektur_Button_Pressed()
 
 void Spielstand::PushButton5_Pressed()
 {
-    QCoreApplication::exit(0);
+    Quit();
 }
 
 void Spielstand::Neustart_Button_Pressed()
@@ -324,6 +332,6 @@ void Spielstand::PushButton6_Pressed()
         schrift.setPointSizeF(schrift.pointSizeF() - 1);
         Anzeige->setFont(schrift);
     } else {
-        System::Beep();
+        platform::Beep();
     }
 }

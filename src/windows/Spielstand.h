@@ -17,7 +17,10 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
+
 class Menue;
+class QDialog;
 class QLabel;
 class QPushButton;
 class QTextEdit;
@@ -45,6 +48,9 @@ public:
     // Prints the sheet as it stands, after the system's print dialog.
     void Drucken();
 
+    // Ends the evening and the program, by "Quit", "Beenden" or the close box: nothing is kept.
+    void Quit();
+
     QTextEdit *const Anzeige;
     QPushButton *const Ueber_Button;
     QPushButton *const Namen_Button;
@@ -70,6 +76,8 @@ protected:
 private:
     void Layout();
     void Event_Opening();
+    // Runs the dialog until it closes, then `danach`, then the refresh.
+    void ModalZeigen(QDialog &dialog, const std::function<void()> &danach = {});
 
     void Ueber_Button_Pressed();
     void Namen_Button_Pressed();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Tabellenmass.h"
+#include "windows/Tabellenmass.h"
 
 #include <QAbstractButton>
 #include <QGuiApplication>

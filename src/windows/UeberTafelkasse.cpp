@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "UeberTafelkasse.h"
+#include "windows/UeberTafelkasse.h"
 
-#include "Tabellenmass.h"
+#include "windows/Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
 
@@ -78,7 +78,7 @@ namespace {
 // The labels are placed for a desktop on which a point is a pixel. Where a point is larger
 // (12 points are 16 pixels at 96 dpi) the second line would wrap and push the third out of
 // its label, so the sizes 36 and 12 are taken in pixels: as large as the places allow.
-QFont schriftImRaster(std::string_view name, int groesse)
+QFont SchriftImRaster(std::string_view name, int groesse)
 {
     QFont schrift(platform::fontFamily(name));
     schrift.setPixelSize(groesse);
@@ -89,10 +89,10 @@ QFont schriftImRaster(std::string_view name, int groesse)
 
 void UeberTafelkasse::Event_Opening()
 {
-    const std::string_view schrift = FontAvailable("Palatino") ? "Palatino" : "System";
-    StaticText1->setFont(schriftImRaster(schrift, 36));
-    StaticText2->setFont(schriftImRaster(schrift, 12));
-    StaticText3->setFont(schriftImRaster(schrift, 12));
+    const std::string schrift = SchriftOderSystem("Palatino");
+    StaticText1->setFont(SchriftImRaster(schrift, 36));
+    StaticText2->setFont(SchriftImRaster(schrift, 12));
+    StaticText3->setFont(SchriftImRaster(schrift, 12));
 }
 
 void UeberTafelkasse::mousePressEvent(QMouseEvent *event)

@@ -15,8 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     const double value = Val(text), top = 9223372036854775808.0;
     const std::int64_t cut = CutToInt64(value);
     const bool inRange = value >= top ? cut == std::numeric_limits<std::int64_t>::max()
-        : value < -top                 ? cut == std::numeric_limits<std::int64_t>::min()
-                                       : static_cast<double>(cut) == std::trunc(value);
+        : value < -top                ? cut == std::numeric_limits<std::int64_t>::min()
+                                      : static_cast<double>(cut) == std::trunc(value);
     // Blanks in front change nothing; Str and Val agree on every whole number a double holds exactly.
     if (std::isnan(value) || !inRange || Val(" \t" + text) != value
         || (std::fabs(value) < 9007199254740992.0 && ZahlAusText(Str(cut)) != cut))

@@ -6,7 +6,8 @@
 // two losers settle the difference of theirs.
 
 #include "ledger/Rechnen.h"
-#include "platform/System.h"
+#include "platform/Beep.h"
+#include "platform/MessageBox.h"
 
 #include <QTest>
 
@@ -22,7 +23,7 @@ const QStringList Namen{"Anna", "Bert", "Carl", "Dora"};
 const Vier S{30, 12, -7, 5}, C{50, -50, 0, 0}; // scores and carry-overs where the names are under test
 
 // Turnovers by the pair rule, then the balances built on `vorher`; money wraps in 64 bits.
-Vier nachRegel(int winner, int east, const Vier &s, const Vier &vorher)
+Vier NachRegel(int winner, int east, const Vier &s, const Vier &vorher)
 {
     Vier ergebnis = Vier(4, 0) + vorher;
     for (int a = 0; a < 4; ++a) {
@@ -36,9 +37,7 @@ Vier nachRegel(int winner, int east, const Vier &s, const Vier &vorher)
 }
 
 // Hears beeps and messages in the order they come.
-struct Alarme final : platform::BeepService, platform::MessageService {
-    Alarme() { install(static_cast<BeepService *>(this)), install(static_cast<MessageService *>(this)); }
-    ~Alarme() { install(static_cast<BeepService *>(nullptr)), install(static_cast<MessageService *>(nullptr)); }
+struct Alarme final : platform::Installed<platform::BeepService>, platform::Installed<platform::MessageService> {
     void beep() override { log << u"beep"_s; }
     void show(std::string_view text) override { log << QString::fromUtf8(text); }
     QStringList log;
@@ -47,7 +46,7 @@ struct Alarme final : platform::BeepService, platform::MessageService {
 // Settles game n with scores `s` on the balances `v` of the game before, while the row still holds
 // the turnovers `u`, and checks every row, read by field name, so that a mix-up of fields, a stray
 // write or a read of the wrong row shows. `spieler`: the four players' names, then winner and East.
-void pruefe(const QStringList &spieler, const Vier &s, const Vier &v, const Vier &u, const Vier &erwartet,
+void Pruefe(const QStringList &spieler, const Vier &s, const Vier &v, const Vier &u, const Vier &erwartet,
             bool alarm = false, std::int64_t n = 1)
 {
     const Alarme gehoert;
@@ -98,8 +97,8 @@ private Q_SLOTS:
         for (int j = 0; j < 60 && !QTest::currentTestFailed(); ++j) {
             const Vier s = j < 3 ? Vier(4, j == 0 ? 0 : j == 1 ? Max : Min) : Vier{zahl(), zahl(), zahl(), zahl()};
             const Vier vorher{zahl(), zahl(), zahl(), zahl()};
-            pruefe(Namen + QStringList{Namen[winner], Namen[east]}, s, vorher, {1, 2, 3, 4},
-                   nachRegel(winner, east, s, vorher), false, j * 37 % HoechstesSpiel + 1);
+            Pruefe(Namen + QStringList{Namen[winner], Namen[east]}, s, vorher, {1, 2, 3, 4},
+                   NachRegel(winner, east, s, vorher), false, j * 37 % HoechstesSpiel + 1);
         }
     }
 
@@ -113,9 +112,9 @@ private Q_SLOTS:
         QTest::addColumn<bool>("alarm");
         const Vier s10{1, 2, 3, 4}, wrap{Max, Max, 1, 1};
         QTest::newRow("of two equal names the lower-numbered player wins")
-            << QStringList{"Anna", "Anna", "Carl", "Dora", "Anna", "Carl"} << s10 << nachRegel(0, 2, S, C) << false;
+            << QStringList{"Anna", "Anna", "Carl", "Dora", "Anna", "Carl"} << s10 << NachRegel(0, 2, S, C) << false;
         QTest::newRow("of two equal names the lower-numbered player is East")
-            << QStringList{"Anna", "Bert", "Carl", "Bert", "Carl", "Bert"} << s10 << nachRegel(2, 1, S, C) << false;
+            << QStringList{"Anna", "Bert", "Carl", "Bert", "Carl", "Bert"} << s10 << NachRegel(2, 1, S, C) << false;
         QTest::newRow("an East of nobody keeps stale turnovers that add up to 0, wrapped")
             << (Namen + QStringList{"Anna", "Zoe"}) << wrap << wrap + Vier{Min + 49, Max - 50, 1, 1} << false;
         QTest::newRow("a winner of nobody keeps stale turnovers, which alarm")
@@ -130,7 +129,7 @@ private Q_SLOTS:
         QFETCH(Vier, stale);
         QFETCH(Vier, erwartet);
         QFETCH(bool, alarm);
-        pruefe(rollen, S, C, stale, erwartet, alarm);
+        Pruefe(rollen, S, C, stale, erwartet, alarm);
     }
 };
 

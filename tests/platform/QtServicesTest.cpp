@@ -7,10 +7,11 @@
 // from another foundry, and fontconfig's alias that answers "Palatino" with DejaVu Sans. How the
 // evening's date is written: plainly without a desktop, in the user's locale with one, in every
 // locale with the full year and the seconds.
-#include "Desktop.h"
-#include "Doubles.h"
+#include "support/Desktop.h"
+#include "support/Doubles.h"
 #include "ledger/Modul1.h"
 #include "platform/QtServices.h"
+#include "support/Doubles.h"
 
 #include <QFontDatabase>
 #include <QRegularExpression>
@@ -38,12 +39,10 @@ private Q_SLOTS:
         QVERIFY2(families.contains(u"Courier [urw]"_s) && families.contains(u"Courier [PfEd]"_s),
                  qPrintable(families.join(u", "_s)));
         platform::QtFonts fonts;
-        platform::install(&fonts);
         QVERIFY(FontAvailable("Courier"));
         QVERIFY(FontAvailable("DejaVu Sans"));
         QVERIFY(!FontAvailable("Palatino"));
         QVERIFY(!FontAvailable("DejaVu"));
-        platform::install(static_cast<platform::FontService *>(nullptr));
     }
 
     // Without a desktop the date is written as German does, which the head of the sheet shows.
@@ -52,7 +51,6 @@ private Q_SLOTS:
         // Half a second before 1970 is in its last second of 1969, which Berlin calls 00:59:59.
         QCOMPARE(QString::fromStdString(DateTime{-500}.ToString()), u"01.01.1970, 00:59:59"_s);
         platform::QtDateFormat desktop;
-        platform::install(&desktop);
         QLocale::setDefault(QLocale(u"en_US"_s));
         QCOMPARE(QString::fromStdString(DateTime{FixedClock::Maerz2021}.ToString()), u"3/12/2021, 7:30:00 PM"_s);
 
@@ -85,7 +83,6 @@ private Q_SLOTS:
                 wrong << locale.name() + u": "_s + text;
         }
         QLocale::setDefault(QLocale(u"de_DE"_s));
-        platform::install(static_cast<platform::DateFormatService *>(nullptr));
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
     }
 };

@@ -16,14 +16,7 @@ using namespace Qt::StringLiterals;
 
 struct GermanDates {
     platform::QtDateFormat service;
-    GermanDates()
-    {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        platform::install(&service);
-    }
-    ~GermanDates() { platform::install(static_cast<platform::DateFormatService *>(nullptr)); }
-    GermanDates(const GermanDates &) = delete;
-    GermanDates &operator=(const GermanDates &) = delete;
+    GermanDates() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
 };
 
 // Qt reads FONTCONFIG_FILE as the application starts, so a test calls this from initMain. The DejaVu

@@ -1,23 +1,19 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Stand-ins for the machine, installed by a test for as long as the object lives: a beep
-// counter, a font list of the test's choosing and a clock that stands still.
+// Stand-ins for the machine, each installed by a test for as long as it lives, as main() installs
+// the desktop's services: a beep counter, a font list of the test's choosing and a clock that
+// stands still.
 #pragma once
 
-#include "platform/System.h"
+#include "platform/Beep.h"
+#include "platform/DateTime.h"
+#include "platform/Fonts.h"
 
 #include <string>
 #include <vector>
 
-// The platform's service of its kind for as long as it lives. install() is found in the service's
-// namespace, so that the print dialog's double, declared elsewhere, can use this too.
-template<typename Service>
-class Installed : public Service {
-protected:
-    Installed() { install(static_cast<Service *>(this)); }
-    ~Installed() override { install(static_cast<Service *>(nullptr)); }
-};
+using platform::Installed;
 
 class ScopedBeepCounter final : public Installed<platform::BeepService> {
 public:

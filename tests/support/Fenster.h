@@ -6,9 +6,9 @@
 // Courier installed; and the ways a user reaches the window's commands.
 #pragma once
 
-#include "Desktop.h"
-#include "Doubles.h"
-#include "Modal.h"
+#include "support/Desktop.h"
+#include "support/Doubles.h"
+#include "support/Modal.h"
 #include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
 

@@ -5,8 +5,8 @@
 // into a PDF file or had cancelled, and such a file read back with poppler's tools.
 #pragma once
 
-#include "Doubles.h"
 #include "platform/PrintDialog.h"
+#include "support/Doubles.h"
 
 #include <QPrinter>
 #include <QProcess>

@@ -3,7 +3,7 @@
 //
 // The warning before a restart: the beep comes before it; OK, in any way, clears the games and the
 // carry-overs, keeps the names and dates the sheet anew; every other way out keeps the evening.
-#include "Fenster.h"
+#include "support/Fenster.h"
 
 class AchtungTest : public QObject, Fenster {
     Q_OBJECT

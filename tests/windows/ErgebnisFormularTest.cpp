@@ -5,7 +5,7 @@
 // Abbruch and Esc end it, the edit items in its fields, and the keyboard alone: Tab walks the form
 // as it reads and enters a group of choices at its checked button, Space picks, Return presses the
 // focused button or, from anywhere else, OK.
-#include "Fenster.h"
+#include "support/Fenster.h"
 
 #include <QLabel>
 

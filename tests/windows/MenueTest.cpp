@@ -4,8 +4,8 @@
 // The menu bar: its items as written, opened by F10 and by Alt with a title's letter; the items of
 // "Bearbeiten" copy the sheet but never edit it; "Drucken" asks the
 // print dialog each time, and the other file items do nothing.
-#include "Fenster.h"
-#include "PrintDoubles.h"
+#include "support/Fenster.h"
+#include "support/PrintDoubles.h"
 
 #include <QClipboard>
 #include <QDir>

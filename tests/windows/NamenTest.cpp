@@ -4,7 +4,7 @@
 // The names dialog as the sheet's head shows it: the dialog opens empty every time, OK takes all
 // eight fields anew, an empty name gives the player's default name back, and Abbruch, Esc and the
 // close box leave names and carry-overs as they were.
-#include "Fenster.h"
+#include "support/Fenster.h"
 
 class NamenTest : public QObject, Fenster {
     Q_OBJECT

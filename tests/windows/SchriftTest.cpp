@@ -4,7 +4,7 @@
 // The texts of every window at the desktop's font sizes that people use, 9 to 12 points: each
 // label's and button's text stands whole in its fixed box, measured with the control's own font
 // where its style draws the text. CTest runs it at the scale factors 1, 1.5 and 2.
-#include "Doubles.h"
+#include "support/Doubles.h"
 #include "windows/Achtung.h"
 #include "windows/Ergebnisse.h"
 #include "windows/Korrigieren.h"

@@ -4,8 +4,8 @@
 // The main window: which of its commands open their dialog as the evening fills, by button, menu
 // item and shortcut alike; where its controls go when it grows; the sheet's size and font. The
 // random evening (ZufallsabendTest) checks ledger, enabled controls and sheet after every action.
-#include "Fenster.h"
-#include "SheetImage.h"
+#include "support/Fenster.h"
+#include "support/SheetImage.h"
 
 #include <QFontDatabase>
 

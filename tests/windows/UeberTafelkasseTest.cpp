@@ -4,12 +4,14 @@
 // The about window: its texts in Palatino where that font is installed, else in the desktop's
 // font; a press hides it and "Über…" shows the same window again, after its close box a new one;
 // the main window's shortcuts serve while it is in front.
-#include "Fenster.h"
+#include "support/Fenster.h"
 #include "windows/UeberTafelkasse.h"
 
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPointer>
+
+#include <optional>
 
 class UeberTafelkasseTest : public QObject, Fenster {
     Q_OBJECT
@@ -31,13 +33,13 @@ private Q_SLOTS:
     void textsInPalatinoWhereItIsInstalled()
     {
         QFETCH(bool, installed);
-        platform::QtFonts desktopFonts;
-        if (installed)
-            platform::install(&desktopFonts);
-        else
-            fonts.fonts = {"Courier", "Palatino Linotype"};
-        button("Ueber_Button")->click();
-        platform::install(static_cast<platform::FontService *>(&fonts));
+        fonts.fonts = {"Courier", "Palatino Linotype"};
+        {
+            std::optional<platform::QtFonts> desktopFonts;
+            if (installed)
+                desktopFonts.emplace();
+            button("Ueber_Button")->click();
+        }
         auto *about = window->findChild<UeberTafelkasse *>();
         QStringList shown{about->windowTitle()};
         for (const QLabel *label : about->findChildren<QLabel *>())

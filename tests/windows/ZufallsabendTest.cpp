@@ -6,11 +6,11 @@
 // every action the ledger must be the evening as if each had been entered once so, and the enabled
 // controls, the beeps, the text size and the sheet must agree with it. TAFELKASSE_SEED replays a
 // run, TAFELKASSE_ACTIONS sets its length (5000).
-#include "Desktop.h"
-#include "Doubles.h"
-#include "Modal.h"
-#include "PrintDoubles.h"
-#include "SheetImage.h"
+#include "support/Desktop.h"
+#include "support/Doubles.h"
+#include "support/Modal.h"
+#include "support/PrintDoubles.h"
+#include "support/SheetImage.h"
 #include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
 
@@ -30,7 +30,7 @@ class ZufallsabendTest : public QObject {
     Q_OBJECT
 
     struct Modell {
-        NamenForm names; // as last confirmed
+        NamesForm names; // as last confirmed
         std::vector<ResultForm> games; // each as it stands after its corrections
         double size = 12;
         int beeps = 0;
@@ -125,7 +125,7 @@ class ZufallsabendTest : public QObject {
 
     void answerNames(QWidget *dialog)
     {
-        NamenForm next;
+        NamesForm next;
         for (int k = 0; k < 4; ++k) {
             const QString name = randomText(true), carry = randomText(false);
             type(dialog->findChild<QLineEdit *>(u"Name_%1"_s.arg(k + 1)), name);

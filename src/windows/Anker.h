@@ -14,8 +14,6 @@
 
 class QWidget;
 
-namespace platform {
-
 enum Lock : unsigned {
     LockLeft = 1,
     LockTop = 2,
@@ -30,7 +28,7 @@ public:
     Anker(QWidget *container, QSize entwurf);
 
     // Places the control at its coordinates and keeps it there by its locks from now on.
-    void setze(QWidget *control, QRect geometrie, unsigned locks);
+    void Setze(QWidget *control, QRect geometrie, unsigned locks);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -41,11 +39,9 @@ private:
         QRect geometrie;
         unsigned locks;
     };
-    void anwenden(const Eintrag &eintrag, QSize jetzt) const;
+    void Anwenden(const Eintrag &eintrag, QSize jetzt) const;
 
     QWidget *m_container;
     QSize m_entwurf;
     QVector<Eintrag> m_eintraege;
 };
-
-} // namespace platform

@@ -4,7 +4,7 @@
 // A label that names a row of buttons, as a screen reader asks for it: each button is labelled by
 // it and named by its text, the label is the label of all of them, and pressing works through the
 // accessible interface, even where Qt had made an interface for a widget before the tie.
-#include "platform/Beschriftung.h"
+#include "windows/Beschriftung.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -33,7 +33,7 @@ private Q_SLOTS:
         auto *label = new QLabel(u"Darstellung:"_s, &row);
         const QList<QPushButton *> buttons{new QPushButton(u"kleiner"_s, &row), new QPushButton(u"größer"_s, &row)};
         (void)QAccessible::queryAccessibleInterface(buttons[0]); // one that Qt made before
-        platform::BeschrifteKnoepfe(label, buttons);
+        BeschrifteKnoepfe(label, buttons);
         QCOMPARE(related(label, QAccessible::Labelled), (QStringList{u"kleiner"_s, u"größer"_s}));
         for (QPushButton *button : buttons)
             QCOMPARE(related(button, QAccessible::Label), QStringList{u"Darstellung:"_s});

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tafelkasse developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Anker.h"
+#include "windows/Anker.h"
 
 #include <QEvent>
 #include <QWidget>
-
-namespace platform {
 
 Anker::Anker(QWidget *container, QSize entwurf)
     : QObject(container)
@@ -15,17 +13,17 @@ Anker::Anker(QWidget *container, QSize entwurf)
     container->installEventFilter(this);
 }
 
-void Anker::setze(QWidget *control, QRect geometrie, unsigned locks)
+void Anker::Setze(QWidget *control, QRect geometrie, unsigned locks)
 {
     m_eintraege.append({control, geometrie, locks});
-    anwenden(m_eintraege.constLast(), m_container->size());
+    Anwenden(m_eintraege.constLast(), m_container->size());
 }
 
 bool Anker::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_container && event->type() == QEvent::Resize) {
         for (const Eintrag &eintrag : std::as_const(m_eintraege))
-            anwenden(eintrag, m_container->size());
+            Anwenden(eintrag, m_container->size());
     }
     return QObject::eventFilter(watched, event);
 }
@@ -33,7 +31,7 @@ bool Anker::eventFilter(QObject *watched, QEvent *event)
 namespace {
 
 // One axis: where the control starts and how long it is, given the growth of the container.
-std::pair<int, int> achse(int anfang, int laenge, int wachstum, bool vorn, bool hinten)
+std::pair<int, int> Achse(int anfang, int laenge, int wachstum, bool vorn, bool hinten)
 {
     if (vorn && hinten)
         return {anfang, laenge + wachstum};
@@ -44,18 +42,16 @@ std::pair<int, int> achse(int anfang, int laenge, int wachstum, bool vorn, bool 
 
 } // namespace
 
-void Anker::anwenden(const Eintrag &eintrag, QSize jetzt) const
+void Anker::Anwenden(const Eintrag &eintrag, QSize jetzt) const
 {
     if (!eintrag.control)
         return;
     // Before the container has its first size there is nothing to follow yet.
     const QSize groesse = jetzt.isEmpty() ? m_entwurf : jetzt;
     const QRect &g = eintrag.geometrie;
-    const auto [x, w] = achse(g.x(), g.width(), groesse.width() - m_entwurf.width(), eintrag.locks & LockLeft,
+    const auto [x, w] = Achse(g.x(), g.width(), groesse.width() - m_entwurf.width(), eintrag.locks & LockLeft,
                               eintrag.locks & LockRight);
-    const auto [y, h] = achse(g.y(), g.height(), groesse.height() - m_entwurf.height(), eintrag.locks & LockTop,
+    const auto [y, h] = Achse(g.y(), g.height(), groesse.height() - m_entwurf.height(), eintrag.locks & LockTop,
                               eintrag.locks & LockBottom);
     eintrag.control->setGeometry(x, y, std::max(w, 0), std::max(h, 0));
 }
-
-} // namespace platform

@@ -11,8 +11,4 @@
 class QLabel;
 class QPushButton;
 
-namespace platform {
-
 void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe);
-
-} // namespace platform
