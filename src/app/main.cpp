@@ -25,7 +25,7 @@ int main(int argc, char *argv[])
     // own picture on the window and in the task bar, whatever icon theme is installed.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
-    for (const int groesse : {16, 32, 48, 64, 128, 256})
+    for (const int groesse : {TAFELKASSE_SYMBOL_SIZES})
         symbol.addFile(u":/symbol/tafelkasse-%1.png"_s.arg(groesse), QSize(groesse, groesse));
     QApplication::setWindowIcon(symbol);
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
