@@ -247,8 +247,8 @@ private Q_SLOTS:
         key(Qt::Key_K, Qt::ControlModifier);
         QCOMPARE(
             paths,
-            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s,
-                         u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s, u"Ergebnis1 Osten_4 Osten_3"_s,
+            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s, u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s,
+                         u"Ergebnis1 Osten_4 Osten_3"_s,
                          u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 Mahjongg_1 Cancel"_s}));
         QCOMPARE(Modul1.Mahjongg[1] + '/' + Modul1.Osten[1], "Spieler 3/Spieler 4");
         QCOMPARE((QList<qint64>{Modul1.Spiel_Nr, Modul1.Ergebnis_1[1], Modul1.Ergebnis_4[1]}),
@@ -329,7 +329,11 @@ private Q_SLOTS:
                               u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
                               u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
                               u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
-                              system + u" 12"_s, shown[5], system + u" 12"_s})); // the credit is ours
+                              system + u" 12"_s, shown[5], system + u" 12"_s}));
+        // The credit is ours: this build's version and the licence, on one line of its box.
+        const QLabel *credit = child<QLabel>(about, u"StaticText3"_s);
+        QVERIFY(credit->text().contains(u" " TAFELKASSE_VERSION u" "_s) && credit->text().contains(u"GPL 3"_s));
+        QCOMPARE_LE(QFontMetrics(credit->font()).horizontalAdvance(credit->text()), credit->contentsRect().width());
 
         // A press hides it and "Über…" shows the same window; after the close box a new one.
         QTest::mousePress(child<QLabel>(about, u"StaticText2"_s), Qt::LeftButton);
