@@ -44,7 +44,7 @@ for f in bin/tafelkasse share/applications/$id.desktop share/metainfo/$id.metain
 done
 program=$work/root/usr/bin/tafelkasse
 [[ $(dpkg-deb --field "$deb" Depends) == *libqt6widgets6* ]] || fail "the package does not depend on Qt"
-grep -q "<release version=\"$version\" date=\"$day\"/>" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
+grep -q "<release version=\"$version\" date=\"$day\"" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
     fail "the metadata does not name release $version of $day"
 
 # Hardening as Debian 12 gives it. hardening-check finds Fortify only where the program calls a
