@@ -39,7 +39,7 @@ changelog_day=$(dpkg-parsechangelog -l "$work/tafelkasse/debian/changelog" -S Da
 
 dpkg-deb -x "$deb" "$work/root"
 for f in bin/tafelkasse share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
-    share/icons/hicolor/scalable/apps/$id.svg; do
+    share/icons/hicolor/scalable/apps/$id.svg share/man/man1/tafelkasse.1.gz share/man/de/man1/tafelkasse.1.gz; do
     [ -s "$work/root/usr/$f" ] || fail "missing in the package: $f"
 done
 program=$work/root/usr/bin/tafelkasse
