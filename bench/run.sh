@@ -8,7 +8,8 @@
 #   bash bench/run.sh
 # It installs what is missing with apt-get (through sudo when not root). Before measuring it
 # waits while the 1-minute load average is 0.8 or more, polling every 30 s, at most
-# BENCH_MAX_WAIT seconds (900 unless set; 0 does not wait).
+# BENCH_MAX_WAIT seconds (900 unless set; 0 does not wait). The start-up takes BENCH_ROUNDS turns of
+# each program (15 unless set); on a busy machine more turns steady the medians.
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
@@ -17,7 +18,7 @@ build="$top/build-bench"
 out="$build/bench/results"
 jobs=$(nproc 2>/dev/null || echo 2)
 max_wait=${BENCH_MAX_WAIT:-900}
-rounds=15
+rounds=${BENCH_ROUNDS:-15}
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libbenchmark-dev xvfb python3 python3-xlib)
 
