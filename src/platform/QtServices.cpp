@@ -57,6 +57,16 @@ std::string QtFonts::at(int index)
 
 namespace {
 
+// Where an opening bracket stands at the end of the pattern so far, with blanks at most after it:
+// its place plus one, or 0 if there is none.
+qsizetype leereKlammer(const QString &muster)
+{
+    qsizetype offen = muster.size();
+    while (offen > 0 && muster.at(offen - 1).isSpace())
+        --offen;
+    return offen > 0 && (muster.at(offen - 1) == u'(' || muster.at(offen - 1) == u'[') ? offen : 0;
+}
+
 // A date or time format of Qt's locale data as the sheet writes it. The data comes from CLDR,
 // and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand
 // as a letter and the hour be read as a 24-hour one, so it becomes Qt's AM/PM. The zone goes,
@@ -75,26 +85,20 @@ QString BlattMuster(const QString &cldr)
             while (i + 1 < cldr.size() && gehoertDazu(cldr.at(i + 1)))
                 ++i;
         };
-        if (zitat || c == u'\'') {
-            muster += c;
-        } else if (c == u'y') {
+        // Letters outside quotes are the format's own; quoted text is the locale's words.
+        const bool format = !zitat && c != u'\'';
+        if (format && c == u'y') {
             lauf([](QChar n) { return n == u'y'; });
             muster += u"yyyy"_s;
-        } else if (c == u'B' || c == u'b') {
+        } else if (format && (c == u'B' || c == u'b')) {
             lauf([](QChar n) { return n == u'B' || n == u'b'; });
             muster += u"AP"_s;
-        } else if (c == u't') {
+        } else if (format && c == u't') {
             lauf([](QChar n) { return n == u't'; });
-        } else if (c == u')' || c == u']') {
+        } else if (format && (c == u')' || c == u']') && leereKlammer(muster) > 0) {
             // Brackets that held only the zone go with it.
-            qsizetype offen = muster.size();
-            while (offen > 0 && muster.at(offen - 1).isSpace())
-                --offen;
-            if (offen > 0 && (muster.at(offen - 1) == u'(' || muster.at(offen - 1) == u'['))
-                muster.truncate(offen - 1);
-            else
-                muster += c;
-        } else if (c != u' ' || !muster.endsWith(u' ')) {
+            muster.truncate(leereKlammer(muster) - 1);
+        } else if (!format || c != u' ' || !muster.endsWith(u' ')) {
             muster += c;
         }
     }
