@@ -24,34 +24,31 @@ namespace {
 
 // Runs a task once the window's first frame is drawn: the window paints as it is exposed, after
 // its event filters have seen the expose, so a task posted from the filter comes after the frame.
-void NachDemErstenBild(QWindow *fenster, const std::function<void()> &aufgabe)
-{
-    class Filter final : public QObject {
-    public:
-        Filter(QWindow *fenster, std::function<void()> aufgabe)
-            : QObject(fenster)
-            , m_aufgabe(std::move(aufgabe))
-        {
-            fenster->installEventFilter(this);
-        }
+class NachDemErstenBild final : public QObject {
+    Q_OBJECT
+public:
+    NachDemErstenBild(QWindow *fenster, std::function<void()> aufgabe)
+        : QObject(fenster)
+        , m_aufgabe(std::move(aufgabe))
+    {
+        fenster->installEventFilter(this);
+    }
 
-        bool eventFilter(QObject *fenster, QEvent *event) override
-        {
-            if (event->type() == QEvent::Expose && static_cast<QWindow *>(fenster)->isExposed()) {
-                fenster->removeEventFilter(this);
-                QTimer::singleShot(0, this, [this] {
-                    m_aufgabe();
-                    deleteLater();
-                });
-            }
-            return false;
+    bool eventFilter(QObject *fenster, QEvent *event) override
+    {
+        if (event->type() == QEvent::Expose && static_cast<QWindow *>(fenster)->isExposed()) {
+            fenster->removeEventFilter(this);
+            QTimer::singleShot(0, this, [this] {
+                m_aufgabe();
+                deleteLater();
+            });
         }
+        return false;
+    }
 
-    private:
-        std::function<void()> m_aufgabe;
-    };
-    new Filter(fenster, aufgabe);
-}
+private:
+    std::function<void()> m_aufgabe;
+};
 
 } // namespace
 
@@ -77,10 +74,12 @@ int main(int argc, char *argv[])
     // dialog, the sheet's context menu) do too, where Qt's translations are installed. None of
     // them is in the window's first frame, so they are read once that frame is drawn.
     QTranslator qtTexte;
-    NachDemErstenBild(fenster.windowHandle(), [&qtTexte] {
+    new NachDemErstenBild(fenster.windowHandle(), [&qtTexte] {
         if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_s, u"_"_s,
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QApplication::installTranslator(&qtTexte);
     });
     return QApplication::exec();
 }
+
+#include "main.moc"
