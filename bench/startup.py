@@ -5,8 +5,9 @@
 # Start-up of Tafelkasse against the toolkit's floor, measured from outside: the program
 # takes no options, so the clock runs from the moment the process is started until the X
 # server maps a window with the program's title. At that moment the process is stopped,
-# its peak resident memory (VmHWM) read, and it is killed. The two programs take turns,
-# under one Xvfb that this script starts, after one unmeasured start of each.
+# its peak resident memory (VmHWM) and the processor time of its threads read, and it is
+# killed. The two programs take turns, under one Xvfb that this script starts, after one
+# unmeasured start of each.
 #
 # Usage: startup.py OURS FLOOR ROUNDS OUT.json [NAME=VALUE...]
 # The NAME=VALUE pairs are added to the environment of the two programs.
@@ -99,6 +100,16 @@ def peak_rss_kib(pid):
     raise RuntimeError("no VmHWM for process %d" % pid)
 
 
+def cpu_ms(pid):
+    """The processor time that all threads of the process have had, in ms: unlike the time until
+    the window shows, it does not grow while other work on the machine holds the processor."""
+    total = 0
+    for task in os.listdir(f"/proc/{pid}/task"):
+        with open(f"/proc/{pid}/task/{task}/schedstat") as schedstat:
+            total += int(schedstat.read().split()[0])
+    return total / 1e6
+
+
 def one_start(server, program, title, environment):
     server.drain()
     started = time.monotonic()
@@ -110,10 +121,11 @@ def one_start(server, program, title, environment):
         # Stopped at once, so that the memory read is that of the moment the window came.
         os.kill(process.pid, signal.SIGSTOP)
         rss = peak_rss_kib(process.pid)
+        cpu = cpu_ms(process.pid)
     finally:
         process.kill()
         process.wait()
-    return (shown - started) * 1000.0, rss
+    return (shown - started) * 1000.0, rss, cpu
 
 
 def main():
@@ -137,10 +149,12 @@ def main():
     for name, samples in runs.items():
         result[name] = {
             "runs": len(samples),
-            "time_ms": [round(t, 2) for t, _ in samples],
-            "peak_rss_kib": [m for _, m in samples],
-            "median_time_ms": statistics.median(t for t, _ in samples),
-            "median_peak_rss_kib": statistics.median(m for _, m in samples),
+            "time_ms": [round(t, 2) for t, _, _ in samples],
+            "peak_rss_kib": [m for _, m, _ in samples],
+            "cpu_ms": [round(c, 2) for _, _, c in samples],
+            "median_time_ms": statistics.median(t for t, _, _ in samples),
+            "median_peak_rss_kib": statistics.median(m for _, m, _ in samples),
+            "median_cpu_ms": statistics.median(c for _, _, c in samples),
         }
     with open(out, "w") as f:
         json.dump(result, f, indent=1)
