@@ -5,7 +5,9 @@
 // from the ledger, writing it into Anzeige and laying it out) at 0 to 99 games, the same
 // sheet written the word-for-word way as a yardstick, and printing a full evening to PDF.
 // Every benchmark first checks that what it times really produced the sheet of the ledger.
+#include "support/Doubles.h"
 #include "LiteralWriter.h"
+#include "support/SheetImage.h"
 
 #include "ledger/Eingabe.h"
 #include "platform/QtServices.h"
@@ -18,6 +20,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QPrinter>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -28,12 +31,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The evening starts on 12 March 2021 at 19:30 in every run, so the head is always as long.
-class FixedClock final : public platform::Installed<platform::ClockService> {
-public:
-    DateTime now() override { return {1615573800000}; }
-};
 
 Spielstand *fenster = nullptr;
 
@@ -55,63 +52,22 @@ void layoutErzwingen(QTextEdit &anzeige)
     benchmark::DoNotOptimize(anzeige.document()->documentLayout()->documentSize());
 }
 
-// The sheet as a reader sees it: runs of text with bold, italic and the font family.
-struct Lauf {
-    QString text;
-    bool fett;
-    bool kursiv;
-    QStringList familien;
-    friend bool operator==(const Lauf &, const Lauf &) = default;
-};
-
-QList<Lauf> laeufe(const QTextDocument &dokument)
-{
-    QList<Lauf> ergebnis;
-    auto anhaengen = [&ergebnis](const QString &text, bool fett, bool kursiv, const QStringList &familien) {
-        if (!ergebnis.isEmpty() && ergebnis.last().fett == fett && ergebnis.last().kursiv == kursiv
-            && ergebnis.last().familien == familien)
-            ergebnis.last().text += text;
-        else
-            ergebnis.append({text, fett, kursiv, familien});
-    };
-    for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextCharFormat format = it.fragment().charFormat();
-            anhaengen(it.fragment().text(), format.fontWeight() >= QFont::Bold, format.fontItalic(),
-                      format.fontFamilies().toStringList());
-        }
-        if (block.next().isValid())
-            ergebnis.last().text += QChar(CR);
-    }
-    return ergebnis;
-}
-
-// One letter per character for its style (a plain, b bold, c italic, d both); line ends stay.
-void stileAnhaengen(QString &stile, const QString &text, bool fett, bool kursiv)
-{
-    for (QChar c : text)
-        stile += c == QChar(CR) ? c : QChar(u'a' + fett + 2 * kursiv);
-}
-
 // Empty when the document reads as the pieces: the same text with the same bold and italic
 // at every character.
 QString abweichung(const QTextDocument &dokument, const Blatt &blatt)
 {
-    QString erwartet;
-    QString gelesen;
-    for (const Stueck &stueck : blatt.Stuecke)
-        stileAnhaengen(erwartet, qs(stueck.Text), stueck.Fett, stueck.Kursiv);
-    for (const Lauf &lauf : laeufe(dokument))
-        stileAnhaengen(gelesen, lauf.text, lauf.fett, lauf.kursiv);
-    if (dokument.toPlainText().replace(u'\n', QChar(CR)) != qs(Volltext(blatt.Stuecke)))
-        return u"the text differs from the ledger's sheet"_s;
-    if (gelesen != erwartet) {
-        qsizetype i = 0;
-        while (i < gelesen.size() && i < erwartet.size() && gelesen[i] == erwartet[i])
-            ++i;
-        return u"the bold and italic runs differ from the ledger's sheet from character %1 on"_s.arg(i);
+    return SheetImage::firstDifference(SheetImage::fromDocument(dokument), SheetImage::fromPieces(blatt.Stuecke));
+}
+
+// The font families that the sheet's characters are set in.
+QSet<QString> familien(const QTextDocument &dokument)
+{
+    QSet<QString> ergebnis;
+    for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            ergebnis.insert(it.fragment().charFormat().fontFamilies().toStringList().join(u','));
     }
-    return {};
+    return ergebnis;
 }
 
 // Every paragraph has its lines: the layout was really done, not left for the next paint.
@@ -171,15 +127,15 @@ void BM_RefreshLiteral(benchmark::State &state)
     QTextEdit &anzeige = *fenster->Anzeige;
     anzeige.clear();
     fenster->Event_Activated();
-    const QList<Lauf> unsere = laeufe(*anzeige.document());
+    const QSet<QString> unsere = familien(*anzeige.document());
     writeSheetLiterally(anzeige, blattDesAbends());
     layoutErzwingen(anzeige);
     if (const QString fehler = abweichung(*anzeige.document(), blattDesAbends()); !fehler.isEmpty()) {
         state.SkipWithError(("word-for-word writing: " + fehler.toStdString()).c_str());
         return;
     }
-    if (laeufe(*anzeige.document()) != unsere) {
-        state.SkipWithError("word-for-word writing gives other runs or fonts than the refresh");
+    if (familien(*anzeige.document()) != unsere) {
+        state.SkipWithError("word-for-word writing sets other fonts than the refresh");
         return;
     }
     for (auto _ : state) {
@@ -247,7 +203,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     platform::QtServices dienste;
-    FixedClock uhr;
+    FixedClock uhr; // the evening starts at the same moment in every run, so the head is always as long
     Spielstand hauptfenster;
     fenster = &hauptfenster;
     hauptfenster.show();

@@ -8,7 +8,8 @@
 #   bash bench/run.sh
 # It installs what is missing with apt-get (through sudo when not root). Before measuring it
 # waits while the 1-minute load average is 0.8 or more, polling every 30 s, at most
-# BENCH_MAX_WAIT seconds (900 unless set; 0 does not wait).
+# BENCH_MAX_WAIT seconds (900 unless set; 0 does not wait). The start-up takes BENCH_ROUNDS turns of
+# each program (15 unless set); on a busy machine more turns steady the medians.
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
@@ -17,9 +18,9 @@ build="$top/build-bench"
 out="$build/bench/results"
 jobs=$(nproc 2>/dev/null || echo 2)
 max_wait=${BENCH_MAX_WAIT:-900}
-rounds=15
+rounds=${BENCH_ROUNDS:-15}
 
-packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libbenchmark-dev xvfb python3 libx11-6)
+packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libbenchmark-dev xvfb python3 python3-xlib)
 
 source "$top/scripts/install-missing.sh"
 
@@ -47,7 +48,8 @@ env "${world[@]}" QT_QPA_PLATFORM=offscreen "$build/bench/tafelkasse_bench" \
     --benchmark_out="$out/sheet.json" --benchmark_out_format=json >"$out/sheet.txt"
 
 echo "Start-up against the floor, $rounds rounds in turns (Xvfb)…"
-python3 "$top/bench/startup.py" "$build/src/app/tafelkasse" "$build/bench/tafelkasse_floor" "$rounds" \
+# Debian's Python, which has the X bindings, whatever python3 comes first in PATH.
+/usr/bin/python3 "$top/bench/startup.py" "$build/src/app/tafelkasse" "$build/bench/tafelkasse_floor" "$rounds" \
     "$out/startup.json" "${world[@]}"
 load_after=$(load)
 

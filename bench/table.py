@@ -90,6 +90,7 @@ def main():
     sp_ours, sp_floor = startup["ours"], startup["floor"]
     t_ratio = sp_ours["median_time_ms"] / sp_floor["median_time_ms"]
     m_ratio = sp_ours["median_peak_rss_kib"] / sp_floor["median_peak_rss_kib"]
+    c_ratio = sp_ours["median_cpu_ms"] / sp_floor["median_cpu_ms"]
     pdf = sheet[("BM_PrintPdf", 99)]
     rss_ours, rss_floor = sp_ours["median_peak_rss_kib"] / 1024, sp_floor["median_peak_rss_kib"] / 1024
     rows = [
@@ -99,9 +100,11 @@ def main():
         ("Refresh at 99 games", fmt_us(ours[-1]), f"word-for-word {fmt_us(literal[-1])}", f"{ratio99:.2f}",
          "≤ 0.33", met(ratio99 <= 1 / 3)),
         (f"Start-up to main window shown (median of {sp_ours['runs']})", f"{sp_ours['median_time_ms']:.1f} ms",
-         f"floor {sp_floor['median_time_ms']:.1f} ms", f"{t_ratio:.2f}", "≤ 1.20", met(t_ratio <= 1.2)),
+         f"floor {sp_floor['median_time_ms']:.1f} ms", f"{t_ratio:.3f}", "≤ 1.10", met(t_ratio <= 1.10)),
+        (f"Processor time until then (median of {sp_ours['runs']})", f"{sp_ours['median_cpu_ms']:.1f} ms",
+         f"floor {sp_floor['median_cpu_ms']:.1f} ms", f"{c_ratio:.3f}", "reported", ""),
         (f"Peak RSS at that moment (median of {sp_ours['runs']})", f"{rss_ours:.1f} MiB",
-         f"floor {rss_floor:.1f} MiB", f"{m_ratio:.2f}", "≤ 1.15", met(m_ratio <= 1.15)),
+         f"floor {rss_floor:.1f} MiB", f"{m_ratio:.3f}", "≤ 1.06", met(m_ratio <= 1.06)),
         ("Print 99 games to PDF (median of 21)", f"{fmt_us(pdf['us'])}, {pdf.get('pages', 0):.0f} pages",
          "", "", "reported", ""),
     ]

@@ -11,9 +11,45 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
+#include <QWindow>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Runs a task once the window's first frame is drawn: the window paints as it is exposed, after
+// its event filters have seen the expose, so a task posted from the filter comes after the frame.
+class NachDemErstenBild final : public QObject {
+    Q_OBJECT
+public:
+    NachDemErstenBild(QWindow *fenster, std::function<void()> aufgabe)
+        : QObject(fenster)
+        , m_aufgabe(std::move(aufgabe))
+    {
+        fenster->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *fenster, QEvent *event) override
+    {
+        if (event->type() == QEvent::Expose && static_cast<QWindow *>(fenster)->isExposed()) {
+            fenster->removeEventFilter(this);
+            QTimer::singleShot(0, this, [this] {
+                m_aufgabe();
+                deleteLater();
+            });
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_aufgabe;
+};
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -24,15 +60,9 @@ int main(int argc, char *argv[])
     // own picture on the window and in the task bar, whatever icon theme is installed.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
-    for (const int groesse : {16, 32, 48, 64, 128, 256})
+    for (const int groesse : {TAFELKASSE_SYMBOL_SIZES})
         symbol.addFile(u":/symbol/tafelkasse-%1.png"_s.arg(groesse), QSize(groesse, groesse));
     QApplication::setWindowIcon(symbol);
-    // The program speaks German whatever the desktop's language, so Qt's own texts (the print
-    // dialog, the sheet's context menu) do too, where Qt's translations are installed.
-    QTranslator qtTexte;
-    if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_s, u"_"_s,
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&qtTexte);
     // The desktop's beep, dates, fonts and message box for the whole run, and the print dialog over
     // the main window; the clock is the system's.
     platform::QtServices dienste;
@@ -40,5 +70,16 @@ int main(int argc, char *argv[])
     Spielstand fenster;
     platform::QtPrintDialog druckdialog(&fenster);
     fenster.show();
+    // The program speaks German whatever the desktop's language, so Qt's own texts (the print
+    // dialog, the sheet's context menu) do too, where Qt's translations are installed. None of
+    // them is in the window's first frame, so they are read once that frame is drawn.
+    QTranslator qtTexte;
+    new NachDemErstenBild(fenster.windowHandle(), [&qtTexte] {
+        if (qtTexte.load(QLocale(QLocale::German, QLocale::Germany), u"qtbase"_s, u"_"_s,
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QApplication::installTranslator(&qtTexte);
+    });
     return QApplication::exec();
 }
+
+#include "main.moc"

@@ -11,7 +11,6 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -60,21 +59,58 @@ std::string QtFonts::at(int index)
 
 namespace {
 
+// Where an opening bracket stands at the end of the pattern so far, with blanks at most after it:
+// its place plus one, or 0 if there is none.
+qsizetype leereKlammer(const QString &muster)
+{
+    qsizetype offen = muster.size();
+    while (offen > 0 && muster.at(offen - 1).isSpace())
+        --offen;
+    return offen > 0 && (muster.at(offen - 1) == u'(' || muster.at(offen - 1) == u'[') ? offen : 0;
+}
+
 // A date or time format of Qt's locale data as the sheet writes it. The data comes from CLDR,
 // and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand
 // as a letter and the hour be read as a 24-hour one, so it becomes Qt's AM/PM. The zone goes,
 // with the brackets and blanks around it, and the year is written in full. Quoted text is the
-// locale's own and stays as it is.
+// locale's own and stays as it is. One pass by hand: a regular expression engine here would be
+// loaded and compiled at start for the head of the first sheet, half a megabyte of it.
 QString BlattMuster(const QString &cldr)
 {
-    static const QRegularExpression jahr(u"y+"_s), tageszeit(u"[Bb]+"_s), zone(u"t+"_s),
-        leereKlammern(u"[(\\[]\\s*[)\\]]"_s), blanks(u" {2,}"_s), raender(u"^[\\s,]+|[\\s,]+$"_s);
-    QStringList teile = cldr.split(u'\'');
-    for (qsizetype i = 0; i < teile.size(); i += 2) {
-        teile[i].replace(jahr, u"yyyy"_s).replace(tageszeit, u"AP"_s).remove(zone).remove(leereKlammern);
-        teile[i].replace(blanks, u" "_s);
+    QString muster;
+    bool zitat = false;
+    for (qsizetype i = 0; i < cldr.size(); ++i) {
+        const QChar c = cldr.at(i);
+        if (c == u'\'')
+            zitat = !zitat;
+        const auto lauf = [&](auto gehoertDazu) {
+            while (i + 1 < cldr.size() && gehoertDazu(cldr.at(i + 1)))
+                ++i;
+        };
+        // Letters outside quotes are the format's own; quoted text is the locale's words.
+        const bool format = !zitat && c != u'\'';
+        if (format && c == u'y') {
+            lauf([](QChar n) { return n == u'y'; });
+            muster += u"yyyy"_s;
+        } else if (format && (c == u'B' || c == u'b')) {
+            lauf([](QChar n) { return n == u'B' || n == u'b'; });
+            muster += u"AP"_s;
+        } else if (format && c == u't') {
+            lauf([](QChar n) { return n == u't'; });
+        } else if (format && (c == u')' || c == u']') && leereKlammer(muster) > 0) {
+            // Brackets that held only the zone go with it.
+            muster.truncate(leereKlammer(muster) - 1);
+        } else if (!format || c != u' ' || !muster.endsWith(u' ')) {
+            muster += c;
+        }
     }
-    return teile.join(u'\'').remove(raender);
+    const auto rand = [](QChar c) { return c.isSpace() || c == u','; };
+    qsizetype anfang = 0, ende = muster.size();
+    while (anfang < ende && rand(muster.at(anfang)))
+        ++anfang;
+    while (ende > anfang && rand(muster.at(ende - 1)))
+        --ende;
+    return muster.mid(anfang, ende - anfang);
 }
 
 } // namespace

@@ -34,7 +34,10 @@ UeberTafelkasse::UeberTafelkasse(QWidget *parent)
                              u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
                              u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
                              this))
-    , StaticText3(new QLabel(u"Freie Software der Tafelkasse-Entwickler"_s, this))
+    // The credit: the version of this build and the licence, on one line at 12 pixels, in the
+    // widest of the usual desktop fonts with room for a longer version number.
+    , StaticText3(
+          new QLabel(u"Version " TAFELKASSE_VERSION u" · Freie Software unter der GNU GPL 3 oder später"_s, this))
 {
     QAccessible::installFactory(alsFenster);
     Layout();

@@ -45,12 +45,12 @@ changelog_day=$(dpkg-parsechangelog -l "$work/tafelkasse/debian/changelog" -S Da
 
 dpkg-deb -x "$deb" "$work/root"
 for f in bin/tafelkasse share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
-    share/icons/hicolor/scalable/apps/$id.svg; do
+    share/icons/hicolor/scalable/apps/$id.svg share/man/man1/tafelkasse.1.gz share/man/de/man1/tafelkasse.1.gz; do
     [ -s "$work/root/usr/$f" ] || fail "missing in the package: $f"
 done
 program=$work/root/usr/bin/tafelkasse
 [[ $(dpkg-deb --field "$deb" Depends) == *libqt6widgets6* ]] || fail "the package does not depend on Qt"
-grep -q "<release version=\"$version\" date=\"$day\"/>" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
+grep -q "<release version=\"$version\" date=\"$day\"" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
     fail "the metadata does not name release $version of $day"
 
 # Hardening as Debian 12 gives it. hardening-check finds Fortify only where the program calls a

@@ -50,7 +50,11 @@ private Q_SLOTS:
                               u"Programm für den \"stäbchenlosen Zahlungsverkehr\"\n"
                               u"bzw. zur Berechnung der Gewinne, Verluste und Kontostände \n"
                               u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
-                              font + u" 12"_s, u"Freie Software der Tafelkasse-Entwickler"_s, font + u" 12"_s}));
+                              font + u" 12"_s, shown[5], font + u" 12"_s}));
+        // The credit is ours: this build's version and the licence, on one line of its box.
+        const QLabel *credit = child<QLabel>(about, u"StaticText3"_s);
+        QVERIFY(credit->text().contains(u" " TAFELKASSE_VERSION u" "_s) && credit->text().contains(u"GPL 3"_s));
+        QCOMPARE_LE(QFontMetrics(credit->font()).horizontalAdvance(credit->text()), credit->contentsRect().width());
     }
 
     void aPressHidesItAndTheCloseBoxEndsIt()
