@@ -12,11 +12,13 @@
 #include <QSize>
 #include <QVector>
 
+#include <cstdint>
+
 class QWidget;
 
 namespace platform {
 
-enum Lock : unsigned {
+enum Lock : std::uint8_t {
     LockLeft = 1,
     LockTop = 2,
     LockRight = 4,

@@ -71,7 +71,8 @@ public:
     {
         QList<Bezug> bezuege = QAccessibleWidget::relations(match);
         if (match & QAccessible::Labelled) {
-            for (QObject *knopf : widget()->property(Beschriftet).value<QObjectList>())
+            const auto knoepfe = widget()->property(Beschriftet).value<QObjectList>();
+            for (QObject *knopf : knoepfe)
                 bezuege.append({QAccessible::queryAccessibleInterface(knopf), QAccessible::Labelled});
         }
         return bezuege;
@@ -102,7 +103,8 @@ void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe
     beschriftung->setProperty(Beschriftet, QVariant::fromValue(liste));
     // Qt may have made and kept an interface for a widget while it was built; the next question
     // then gets one of ours.
-    for (QObject *widget : liste + QObjectList{beschriftung}) {
+    const QObjectList alle = liste + QObjectList{beschriftung};
+    for (QObject *widget : alle) {
         QAccessibleInterface *schnittstelle = QAccessible::queryAccessibleInterface(widget);
         if (!dynamic_cast<Knopf *>(schnittstelle) && !dynamic_cast<Schild *>(schnittstelle))
             QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(schnittstelle));

@@ -35,7 +35,8 @@ void QtFonts::load()
     // installed under its own name, whichever foundry makes it. QFontDatabase::hasFamily would
     // also follow fontconfig's aliases, by which a stand-in answers for a missing family; the
     // list holds only the families that are there.
-    for (const QString &eintrag : QFontDatabase::families()) {
+    const QStringList eintraege = QFontDatabase::families();
+    for (const QString &eintrag : eintraege) {
         const qsizetype klammer = eintrag.indexOf(u'[');
         const QString familie = klammer > 0 && eintrag.endsWith(u']') ? eintrag.left(klammer).trimmed() : eintrag;
         if (!m_families.contains(familie))

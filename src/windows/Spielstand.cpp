@@ -105,7 +105,8 @@ void Spielstand::Layout()
     fett.setBold(true);
     PushButton5->setFont(fett);
     // A button that has the keyboard focus answers Return as it answers Space.
-    for (QPushButton *knopf : findChildren<QPushButton *>())
+    const QList<QPushButton *> knoepfe = findChildren<QPushButton *>();
+    for (QPushButton *knopf : knoepfe)
         knopf->setAutoDefault(true);
 
     // The sheet can be read, selected and copied, never edited; it has no undo of its own,
