@@ -63,15 +63,17 @@ namespace {
 // and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand
 // as a letter and the hour be read as a 24-hour one, so it becomes Qt's AM/PM. The zone goes,
 // with the brackets and blanks around it, and the year is written in full. Quoted text is the
-// locale's own and stays as it is.
+// locale's own and stays as it is. A blank is any of Unicode's: newer locale data sets AM/PM
+// off by a narrow no-break space, which would otherwise stay behind at the end.
 QString BlattMuster(const QString &cldr)
 {
     static const QRegularExpression jahr(u"y+"_s), tageszeit(u"[Bb]+"_s), zone(u"t+"_s),
-        leereKlammern(u"[(\\[]\\s*[)\\]]"_s), blanks(u" {2,}"_s), raender(u"^[\\s,]+|[\\s,]+$"_s);
+        leereKlammern(u"[(\\[][\\s\\p{Z}]*[)\\]]"_s), blanks(u"([\\s\\p{Z}])[\\s\\p{Z}]+"_s),
+        raender(u"^[\\s\\p{Z},]+|[\\s\\p{Z},]+$"_s);
     QStringList teile = cldr.split(u'\'');
     for (qsizetype i = 0; i < teile.size(); i += 2) {
         teile[i].replace(jahr, u"yyyy"_s).replace(tageszeit, u"AP"_s).remove(zone).remove(leereKlammern);
-        teile[i].replace(blanks, u" "_s);
+        teile[i].replace(blanks, u"\\1"_s);
     }
     return teile.join(u'\'').remove(raender);
 }
