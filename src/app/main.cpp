@@ -12,6 +12,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPixmap>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
@@ -22,11 +23,13 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(u"Tafelkasse"_s);
     QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
-    // own picture on the window and in the task bar, whatever icon theme is installed.
+    // own picture on the window and in the task bar, whatever icon theme is installed. The pictures
+    // are loaded here: an icon that loads its files itself hands the window manager of a scaled
+    // screen every size as the 32-pixel one under Qt 6.8, and the task bar shows it blurred.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
     for (const int groesse : {16, 32, 48, 64, 128, 256})
-        symbol.addFile(u":/symbol/tafelkasse-%1.png"_s.arg(groesse), QSize(groesse, groesse));
+        symbol.addPixmap(QPixmap(u":/symbol/tafelkasse-%1.png"_s.arg(groesse)));
     QApplication::setWindowIcon(symbol);
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
     // dialog, the sheet's context menu) do too, where Qt's translations are installed.
