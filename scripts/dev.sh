@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# One entry point for a fresh Debian 12 machine:
+# One entry point for a fresh Debian 12 or 13 machine:
 #   scripts/dev.sh run      installs what is missing, builds the program, starts Tafelkasse
 #   scripts/dev.sh test     installs what is missing, checks the format and the scripts, builds
 #                           the normal, sanitizer and fuzz configurations, runs every test in
@@ -14,11 +14,14 @@ cd "$(dirname "$0")/.."
 top=$(pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
+# clang, clang-tidy, clang-format and libclang-rt-dev are each release's own version (14 on
+# Debian 12, 19 on Debian 13), so the same names serve both.
 packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libxcb1-dev)
-packages_test=(xvfb xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi imagemagick poppler-utils fonts-dejavu-core fonts-urw-base35 python3 strace dbus-daemon
-    desktop-file-utils appstream dpkg-dev clang-14 libclang-rt-14-dev
+packages_test=(xvfb xauth xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi python3-xlib
+    imagemagick poppler-utils fonts-dejavu-core fonts-urw-base35 python3 strace dbus-daemon
+    desktop-file-utils appstream dpkg-dev clang libclang-rt-dev
     build-essential debhelper lintian devscripts blhc)
-packages_analysis=(clang-tidy-14 clazy clang-format-14 shellcheck)
+packages_analysis=(clang-tidy clazy clang-format shellcheck)
 
 source "$top/scripts/install-missing.sh"
 
@@ -46,7 +49,7 @@ analyse() {
     local sources tidy=0 clazy=0 start=$SECONDS
     mapfile -t sources < <(find "$top/src" -name '*.cpp' | sort)
     # clang-tidy counts what it hides in Qt's headers; only what it shows matters.
-    printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$jobs" clang-tidy-14 -p "$top/build" --quiet 2>&1 \
+    printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$jobs" clang-tidy -p "$top/build" --quiet 2>&1 \
         | sed '/^[0-9]* warnings\? generated\.$/d' || tidy=$?
     printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$jobs" clazy-standalone -p "$top/build" \
         --checks="$clazy_checks" --header-filter="^$top/src/[a-z]+/[^/]+\.h$" --extra-arg=-Werror || clazy=$?
@@ -63,7 +66,7 @@ check_style() {
     mapfile -t cxx < <(find src tests bench \( -name '*.cpp' -o -name '*.h' \) | sort)
     mapfile -t scripts < <(find scripts tests/app bench -name '*.sh' | sort)
     scripts+=(.ci/run)
-    clang-format-14 --dry-run --Werror "${cxx[@]}"
+    clang-format --dry-run --Werror "${cxx[@]}"
     shellcheck "${scripts[@]}"
     echo "clang-format and shellcheck: no findings in ${#cxx[@]} C++ files and ${#scripts[@]} scripts"
 }
@@ -85,7 +88,7 @@ test)
     build build-asan
     ctest --test-dir "$top/build-asan" --output-on-failure --parallel "$jobs"
     # The fuzz targets need clang's libFuzzer; they build alone, not the whole program.
-    CC=clang-14 CXX=clang++-14 configure build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAFELKASSE_WERROR=ON \
+    CC=clang CXX=clang++ configure build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAFELKASSE_WERROR=ON \
         -DTAFELKASSE_FUZZ=ON
     build build-fuzz --target ValFuzz AbrechnungFuzz
     # Each fuzz target runs for a fixed time on one core: the analysis takes the other meanwhile.

@@ -11,6 +11,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPixmap>
 #include <QTimer>
 #include <QTranslator>
 #include <QWindow>
@@ -57,11 +58,13 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(u"Tafelkasse"_s);
     QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
-    // own picture on the window and in the task bar, whatever icon theme is installed.
+    // own picture on the window and in the task bar, whatever icon theme is installed. The pictures
+    // are loaded here: an icon that loads its files itself hands the window manager of a scaled
+    // screen every size as the 32-pixel one under Qt 6.8, and the task bar shows it blurred.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
     for (const int groesse : {TAFELKASSE_SYMBOL_SIZES})
-        symbol.addFile(u":/symbol/tafelkasse-%1.png"_s.arg(groesse), QSize(groesse, groesse));
+        symbol.addPixmap(QPixmap(u":/symbol/tafelkasse-%1.png"_s.arg(groesse)));
     QApplication::setWindowIcon(symbol);
     // The desktop's beep, dates, fonts and message box for the whole run, and the print dialog over
     // the main window; the clock is the system's.

@@ -36,7 +36,8 @@ void QtFonts::load()
     // installed under its own name, whichever foundry makes it. QFontDatabase::hasFamily would
     // also follow fontconfig's aliases, by which a stand-in answers for a missing family; the
     // list holds only the families that are there.
-    for (const QString &eintrag : QFontDatabase::families()) {
+    const QStringList eintraege = QFontDatabase::families();
+    for (const QString &eintrag : eintraege) {
         const qsizetype klammer = eintrag.indexOf(u'[');
         const QString familie = klammer > 0 && eintrag.endsWith(u']') ? eintrag.left(klammer).trimmed() : eintrag;
         if (!m_families.contains(familie))
@@ -73,8 +74,10 @@ qsizetype leereKlammer(const QString &muster)
 // and Qt 6.4 does not read all of its letters: a day period "B" ("下午" in Taiwan) would stand
 // as a letter and the hour be read as a 24-hour one, so it becomes Qt's AM/PM. The zone goes,
 // with the brackets and blanks around it, and the year is written in full. Quoted text is the
-// locale's own and stays as it is. One pass by hand: a regular expression engine here would be
-// loaded and compiled at start for the head of the first sheet, half a megabyte of it.
+// locale's own and stays as it is. A blank is any of Unicode's: newer locale data sets AM/PM off
+// by a narrow no-break space, which would otherwise stay behind at the end. One pass by hand: a
+// regular expression engine here would be loaded and compiled at start for the head of the first
+// sheet, half a megabyte of it.
 QString BlattMuster(const QString &cldr)
 {
     QString muster;
@@ -100,7 +103,7 @@ QString BlattMuster(const QString &cldr)
         } else if (format && (c == u')' || c == u']') && leereKlammer(muster) > 0) {
             // Brackets that held only the zone go with it.
             muster.truncate(leereKlammer(muster) - 1);
-        } else if (!format || c != u' ' || !muster.endsWith(u' ')) {
+        } else if (!format || !c.isSpace() || muster.isEmpty() || !muster.back().isSpace()) {
             muster += c;
         }
     }

@@ -12,9 +12,11 @@
 #include <QSize>
 #include <QVector>
 
+#include <cstdint>
+
 class QWidget;
 
-enum Lock : unsigned {
+enum Lock : std::uint8_t {
     LockLeft = 1,
     LockTop = 2,
     LockRight = 4,

@@ -97,7 +97,8 @@ void BeschrifteKnoepfe(QLabel *beschriftung, const QList<QPushButton *> &knoepfe
     beschriftung->setProperty(Gegenueber, QVariant::fromValue(liste));
     // Qt may have made and kept an interface for a widget while it was built; the next question
     // then gets one of ours.
-    for (QObject *widget : liste + QObjectList{beschriftung}) {
+    const QObjectList alle = liste + QObjectList{beschriftung};
+    for (QObject *widget : alle) {
         QAccessibleInterface *schnittstelle = QAccessible::queryAccessibleInterface(widget);
         if (!dynamic_cast<Knopf *>(schnittstelle) && !dynamic_cast<Schild *>(schnittstelle))
             QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(schnittstelle));

@@ -106,7 +106,8 @@ void Spielstand::Layout()
     fett.setBold(true);
     PushButton5->setFont(fett);
     // A button that has the keyboard focus answers Return as it answers Space.
-    for (QPushButton *knopf : findChildren<QPushButton *>())
+    const QList<QPushButton *> knoepfe = findChildren<QPushButton *>();
+    for (QPushButton *knopf : knoepfe)
         knopf->setAutoDefault(true);
     // The buttons and the label have the system's size, as far as their boxes hold it, a default
     // button's frame included.

@@ -35,9 +35,9 @@ UeberTafelkasse::UeberTafelkasse(QWidget *parent)
                              u"für vier Mah Jongg-SpielerInnen in bis zu 100 Spielen."_s,
                              this))
     // The credit: the version of this build and the licence, on one line at 12 pixels, in the
-    // widest of the usual desktop fonts with room for a longer version number.
+    // widest of the usual desktop fonts (DejaVu Sans) with room for a longer version number.
     , StaticText3(
-          new QLabel(u"Version " TAFELKASSE_VERSION u" · Freie Software unter der GNU GPL 3 oder später"_s, this))
+          new QLabel(u"Version " TAFELKASSE_VERSION u" · Freie Software unter GNU GPL 3 oder später"_s, this))
 {
     QAccessible::installFactory(alsFenster);
     Layout();

@@ -59,8 +59,10 @@ grep -q "<release version=\"$version\" date=\"$day\"" "$work/root/usr/share/meta
 # log instead. The build asks for stack-clash probes and control-flow marks, but a probe is
 # only made for a stack frame larger than a page, which the program has none of, and the mark
 # reaches the program only if every object linked carries it, which Debian 12's C start-up
-# files (crt1.o, crti.o) do not: those two lines cannot read yes.
-hardening-check --nofortify --nocfprotection "$program" || fail "the program lacks hardening"
+# files (crt1.o, crti.o) do not: those two lines cannot read yes. Later releases' hardening-check
+# also asks for branch protection, which only arm64's processors have, and offers to skip it.
+[[ $arch == arm64 || $(hardening-check --help) != *--nobranchprotection* ]] || branch=--nobranchprotection
+hardening-check --nofortify --nocfprotection ${branch:+"$branch"} "$program" || fail "the program lacks hardening"
 blhc --arch="$arch" "$work/build.log" || fail "the build missed some of the distribution's flags"
 if readelf -d "$program" | grep -E 'RPATH|RUNPATH'; then fail "the program carries a library search path"; fi
 build_id=$(readelf -n "$program" | awk '/Build ID/ { print $3 }')

@@ -52,14 +52,16 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(DateTime{-500}.ToString()), u"01.01.1970, 00:59:59"_s);
         platform::QtDateFormat desktop;
         QLocale::setDefault(QLocale(u"en_US"_s));
-        QCOMPARE(QString::fromStdString(DateTime{FixedClock::Maerz2021}.ToString()), u"3/12/2021, 7:30:00 PM"_s);
+        // Newer locale data sets "PM" off by a narrow no-break space, which a reader sees as a blank.
+        QCOMPARE(QString::fromStdString(DateTime{FixedClock::Maerz2021}.ToString()).replace(QChar(0x202F), u' '),
+                 u"3/12/2021, 7:30:00 PM"_s);
 
         // Every locale that Qt knows writes the year in full and the seconds, in its own digits, and
         // leaves neither empty brackets nor a letter of a format that Qt does not read: the letters left
         // are the locale's own words, its AM/PM, its month and the quoted text of its formats.
         const DateTime moment{FixedClock::Maerz2021 + 47000};
-        static const QRegularExpression emptyBrackets(u"\\p{Ps}\\s*\\p{Pe}"_s), quoted(u"'([^']+)'"_s),
-            latin(u"[A-Za-z]"_s);
+        static const QRegularExpression emptyBrackets(u"\\p{Ps}[\\s\\p{Z}]*\\p{Pe}"_s), quoted(u"'([^']+)'"_s),
+            latin(u"[A-Za-z]"_s), twoBlanks(u"[\\s\\p{Z}]{2}"_s);
         QStringList wrong;
         for (const QLocale &locale :
              QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
@@ -78,7 +80,7 @@ private Q_SLOTS:
             for (const QString &word : std::as_const(words))
                 rest.remove(word, Qt::CaseInsensitive);
             if (!text.contains(digits.toString(2021)) || !text.contains(digits.toString(47))
-                || text.contains(emptyBrackets) || rest.contains(latin) || text.contains(u"  "_s)
+                || text.contains(emptyBrackets) || rest.contains(latin) || text.contains(twoBlanks)
                 || text.trimmed() != text)
                 wrong << locale.name() + u": "_s + text;
         }
