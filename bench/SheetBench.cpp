@@ -5,8 +5,8 @@
 // from the ledger, writing it into Anzeige and laying it out) at 0 to 99 games, the same
 // sheet written the word-for-word way as a yardstick, and printing a full evening to PDF.
 // Every benchmark first checks that what it times really produced the sheet of the ledger.
-#include "support/Doubles.h"
 #include "LiteralWriter.h"
+#include "support/Doubles.h"
 #include "support/SheetImage.h"
 
 #include "ledger/Eingabe.h"

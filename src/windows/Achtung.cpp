@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/Achtung.h"
 
-#include "windows/Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
+#include "windows/Tabellenmass.h"
 
 #include <QGuiApplication>
 #include <QLabel>

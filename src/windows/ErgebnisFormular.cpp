@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/ErgebnisFormular.h"
 
-#include "windows/Tabellenmass.h"
 #include "platform/QtText.h"
+#include "windows/Tabellenmass.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/Namen.h"
 
-#include "windows/Tabellenmass.h"
 #include "ledger/Eingabe.h"
 #include "platform/QtText.h"
+#include "windows/Tabellenmass.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/UeberTafelkasse.h"
 
-#include "windows/Tabellenmass.h"
 #include "ledger/Modul1.h"
 #include "platform/QtText.h"
+#include "windows/Tabellenmass.h"
 
 #include <QAccessibleWidget>
 #include <QLabel>
@@ -36,8 +36,7 @@ UeberTafelkasse::UeberTafelkasse(QWidget *parent)
                              this))
     // The credit: the version of this build and the licence, on one line at 12 pixels, in the
     // widest of the usual desktop fonts (DejaVu Sans) with room for a longer version number.
-    , StaticText3(
-          new QLabel(u"Version " TAFELKASSE_VERSION u" · Freie Software unter GNU GPL 3 oder später"_s, this))
+    , StaticText3(new QLabel(u"Version " TAFELKASSE_VERSION u" · Freie Software unter GNU GPL 3 oder später"_s, this))
 {
     QAccessible::installFactory(alsFenster);
     Layout();

@@ -7,10 +7,9 @@
 // from another foundry, and fontconfig's alias that answers "Palatino" with DejaVu Sans. How the
 // evening's date is written: plainly without a desktop, in the user's locale with one, in every
 // locale with the full year and the seconds.
-#include "support/Desktop.h"
-#include "support/Doubles.h"
 #include "ledger/Modul1.h"
 #include "platform/QtServices.h"
+#include "support/Desktop.h"
 #include "support/Doubles.h"
 
 #include <QFontDatabase>

@@ -6,10 +6,10 @@
 // Courier installed; and the ways a user reaches the window's commands.
 #pragma once
 
+#include "ledger/Eingabe.h"
 #include "support/Desktop.h"
 #include "support/Doubles.h"
 #include "support/Modal.h"
-#include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
 
 #include <QLineEdit>

@@ -7,9 +7,8 @@
 // page range, copies and page order of the print dialog, as pages taken from the full printout. The
 // sheet's characters as written, on screen and on paper, in a font with ligatures that the test
 // brings in a font configuration of its own.
-#include "support/Desktop.h"
-#include "support/PrintDoubles.h"
 #include "ledger/Eingabe.h"
+#include "support/Desktop.h"
 #include "support/PrintDoubles.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"

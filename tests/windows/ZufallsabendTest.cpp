@@ -6,12 +6,12 @@
 // every action the ledger must be the evening as if each had been entered once so, and the enabled
 // controls, the beeps, the text size and the sheet must agree with it. TAFELKASSE_SEED replays a
 // run, TAFELKASSE_ACTIONS sets its length (5000).
+#include "ledger/Eingabe.h"
 #include "support/Desktop.h"
 #include "support/Doubles.h"
 #include "support/Modal.h"
 #include "support/PrintDoubles.h"
 #include "support/SheetImage.h"
-#include "ledger/Eingabe.h"
 #include "windows/Spielstand.h"
 
 #include <QAction>
