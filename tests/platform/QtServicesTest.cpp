@@ -11,7 +11,6 @@
 #include "support/Doubles.h"
 #include "ledger/Modul1.h"
 #include "platform/QtServices.h"
-#include "support/Doubles.h"
 
 #include <QFontDatabase>
 #include <QRegularExpression>

@@ -10,7 +10,6 @@
 #include "support/Desktop.h"
 #include "support/PrintDoubles.h"
 #include "ledger/Eingabe.h"
-#include "support/PrintDoubles.h"
 #include "view/BlattSchreiben.h"
 #include "view/Drucken.h"
 
