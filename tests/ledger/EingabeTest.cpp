@@ -15,14 +15,18 @@ class EingabeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // A full evening takes no 100th game; there is no row for it. (That a correction gives the evening
-    // as if the game had been entered so, the random evening checks after every action.)
-    void noRowForAHundredthGame()
+    // The correction form as it opens, confirmed after an Abbruch, gives the full evening back, flag and
+    // all; there is no row for a 100th game. (That a changed game gives the evening as if entered so,
+    // the random evening checks after every action.)
+    void aFullEveningStaysAsItIs()
     {
         Abend abend;
         for (int i = 1; i <= HoechstesSpiel; ++i)
-            Ergebnisse_OK(abend, {{Str(i), "1", "2", "3"}, i % 4 + 1, 1});
+            Ergebnisse_OK(abend, {{Str(i), "1", "2", "3"}, i % 4 + 1, i / 4 % 4 + 1});
         const Abend voll = abend;
+        Eingabe_Abbruch(abend);
+        Korrigieren_OK(abend, KorrekturFormular(abend));
+        QVERIFY(abend == voll);
         Ergebnisse_OK(abend, {});
         QVERIFY(abend == voll);
     }
