@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aFullEveningStaysAsItIs()
     {
         Abend abend;
+        Namen_OK(abend, {});
         for (int i = 1; i <= HoechstesSpiel; ++i)
             Ergebnisse_OK(abend, {{Str(i), "1", "2", "3"}, i % 4 + 1, i / 4 % 4 + 1});
         const Abend voll = abend;
