@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The names dialog as the sheet's head shows it: the dialog opens empty every time, OK takes all
-// eight fields anew, an empty name gives the player's default name back, and Esc leaves names and
-// carry-overs as they were (Abbruch and the close box are the random evening's).
+// eight fields anew, an empty name gives the player's default name back, and Abbruch, Esc and the
+// close box leave names and carry-overs as they were.
 #include "support/Fenster.h"
 
 class NamenTest : public QObject, Fenster {
@@ -15,12 +15,14 @@ private Q_SLOTS:
 
     void eachConfirmationTakesTheFieldsAnew_data()
     {
-        QTest::addColumn<QString>("second"); // how the second dialog ends: OK or Esc
+        QTest::addColumn<QString>("second"); // how the second dialog ends: a button, Esc or the close box
         QTest::addColumn<QStringList>("head"); // each player's name and carry-over after it
         const QStringList first{u"Spieler 1:  12"_s, u"Bert:  0"_s, longName + u":  0"_s, u"Spieler 4:  -3"_s};
         QTest::newRow("OK replaces names and carry-overs")
             << u"OK_Name"_s << QStringList{u"Anna:  5"_s, u"Spieler 2:  0"_s, u"Spieler 3:  0"_s, u"Spieler 4:  0"_s};
+        QTest::newRow("Abbruch keeps them") << u"Abbruch_Name"_s << first;
         QTest::newRow("Esc keeps them") << u"Esc"_s << first;
+        QTest::newRow("the close box keeps them") << u"close"_s << first;
     }
 
     void eachConfirmationTakesTheFieldsAnew()
@@ -37,7 +39,12 @@ private Q_SLOTS:
         ANSWER_MODAL(press("Namen_Button"), [&](QWidget *d) {
             forms << formOf(d);
             type(d, {"Name_1", "Anna", "Übertrag_1", "5"});
-            second == u"Esc"_s ? QTest::keyClick(d, Qt::Key_Escape) : click(d, second);
+            if (second == u"Esc"_s)
+                QTest::keyClick(d, Qt::Key_Escape);
+            else if (second == u"close"_s)
+                d->close();
+            else
+                click(d, second);
         });
         QCOMPARE(forms, QStringList(16, QString()));
         QCOMPARE(standings(), head);
