@@ -3,9 +3,9 @@
 //
 // The main window: which of its commands open their dialog as the evening fills, by button, menu
 // item and shortcut alike; where its controls go when it grows; the sheet's size and font. The
-// random evening (ZufallsabendTest) checks ledger, enabled controls and sheet after every action.
+// random evening (ZufallsabendTest) checks ledger, enabled controls and the sheet in its styles
+// after every action.
 #include "support/Fenster.h"
-#include "support/SheetImage.h"
 
 #include <QFontDatabase>
 
@@ -64,17 +64,6 @@ private Q_SLOTS:
         QCOMPARE(Modul1.Spiel_Nr, last);
         if (ran)
             QCOMPARE(Modul1.Ergebnis_1[size_t(last)], 5);
-    }
-
-    // Every character and line end in the style of its line, as the sheet's pieces give them.
-    void theSheetShowsTheLedgerInItsStyles()
-    {
-        Modul1.Spieler3 = "Spieler 1";
-        playGames(5);
-        const Blatt blatt = Dokument(Modul1, window->Zeilen(), BlattSchrift(), Modul1.Tagesdatum->ToString());
-        QCOMPARE(SheetImage::fromDocument(*window->Anzeige->document()).lines(),
-                 SheetImage::fromPieces(blatt.Stuecke).lines());
-        QCOMPARE(sheet().section(u'\n', 0, 0), u"Tafelkasse (Test-Version); 12.03.2021, 19:30:00"_s);
     }
 
     void controlsFollowTheirLocksWhenTheWindowGrows()
