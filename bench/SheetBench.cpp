@@ -93,13 +93,19 @@ void zwischendurchMalen(benchmark::State &state)
     state.ResumeTiming();
 }
 
-void BM_Refresh(benchmark::State &state)
+// The evening of the benchmark's number of games, its sheet written anew into an emptied area.
+QTextEdit &blattMitSpielen(const benchmark::State &state)
 {
-    const int spiele = static_cast<int>(state.range(0));
-    spieleEin(spiele);
+    spieleEin(static_cast<int>(state.range(0)));
     QTextEdit &anzeige = *fenster->Anzeige;
     anzeige.clear();
     fenster->Event_Activated();
+    return anzeige;
+}
+
+void BM_Refresh(benchmark::State &state)
+{
+    QTextEdit &anzeige = blattMitSpielen(state);
     layoutErzwingen(anzeige);
     if (const QString fehler = abweichung(*anzeige.document(), blattDesAbends()); !fehler.isEmpty()) {
         state.SkipWithError(fehler.toStdString().c_str());
@@ -114,7 +120,7 @@ void BM_Refresh(benchmark::State &state)
         layoutErzwingen(anzeige);
         zwischendurchMalen(state);
     }
-    state.counters["games"] = spiele;
+    state.counters["games"] = static_cast<double>(state.range(0));
     state.counters["lines"] = anzeige.document()->blockCount();
 }
 
@@ -122,11 +128,7 @@ void BM_Refresh(benchmark::State &state)
 // word-for-word way.
 void BM_RefreshLiteral(benchmark::State &state)
 {
-    const int spiele = static_cast<int>(state.range(0));
-    spieleEin(spiele);
-    QTextEdit &anzeige = *fenster->Anzeige;
-    anzeige.clear();
-    fenster->Event_Activated();
+    QTextEdit &anzeige = blattMitSpielen(state);
     const QSet<QString> unsere = familien(*anzeige.document());
     writeSheetLiterally(anzeige, blattDesAbends());
     layoutErzwingen(anzeige);
@@ -143,7 +145,7 @@ void BM_RefreshLiteral(benchmark::State &state)
         layoutErzwingen(anzeige);
         zwischendurchMalen(state);
     }
-    state.counters["games"] = spiele;
+    state.counters["games"] = static_cast<double>(state.range(0));
     state.counters["lines"] = anzeige.document()->blockCount();
 }
 
@@ -183,7 +185,7 @@ void BM_PrintPdf(benchmark::State &state)
             return;
         }
     }
-    state.counters["games"] = spiele;
+    state.counters["games"] = static_cast<double>(state.range(0));
     state.counters["pages"] = seiten;
 }
 
