@@ -87,7 +87,8 @@ ErgebnisFormular::ErgebnisFormular(const FormularLayout &layout, QWidget *parent
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setWordWrap(true);
     // The request above the rows has the system's size; everything else the table's 12.
-    for (QWidget *control : findChildren<QWidget *>()) {
+    const QList<QWidget *> controls = findChildren<QWidget *>();
+    for (QWidget *control : controls) {
         if (control != Label1)
             SchriftInPixeln(control, 12);
     }
