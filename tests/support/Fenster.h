@@ -12,6 +12,7 @@
 #include "support/Modal.h"
 #include "windows/Spielstand.h"
 
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -42,6 +43,18 @@ struct Fenster {
     QString sheet() const { return window->Anzeige->toPlainText(); }
     QStringList standings() const { return sheet().split(u'\n').mid(7, 4); } // "name:  carry-over" of each
     static void click(QWidget *d, const QString &name) { QTest::mouseClick(child<QWidget>(d, name), Qt::LeftButton); }
+    // Ends the open dialog as its user would: "close" by its close box, a button's name by a click on
+    // that button, else the keys named ("Esc", "Tab Return") where the dialog's focus is.
+    static void end(QWidget *d, const QString &way)
+    {
+        if (way == u"close"_s)
+            d->close();
+        else if (d->findChild<QPushButton *>(way))
+            click(d, way);
+        else
+            for (const QString &key : way.split(u' '))
+                QTest::keyClick(d->focusWidget() ? d->focusWidget() : d, QKeySequence(key)[0].key());
+    }
 
     // The actions that open the window's commands: a click on a button, a menu item, Ctrl with a key.
     std::function<void()> press(const char *name) const
