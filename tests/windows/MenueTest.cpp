@@ -38,9 +38,9 @@ private Q_SLOTS:
                  u"Tafelkasse |Ctrl+I :"_s);
 
         QStringList menus;
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
         for (const auto &[k, m] : {std::pair{Qt::Key_F10, Qt::NoModifier}, {Qt::Key_B, Qt::AltModifier}}) {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(window.get()));
             QTest::keyClick(QApplication::focusWidget(), k, m);
             const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             menus << (menu ? menu->title() : QString());
@@ -95,9 +95,8 @@ private Q_SLOTS:
         item("AblageDrucken")->trigger();
         QVERIFY(pdfPages(printing.file).value(0).contains(u"Spiel Nr. 1"_s));
         const QString info = popplerOutput(u"pdfinfo"_s, {printing.file});
-        QVERIFY2(info.contains(QRegularExpression(u"Title: +Tafelkasse 2021-03-12\\n"_s))
-                     && info.contains(QRegularExpression(u"Creator: +Tafelkasse 9\\.8\\n"_s)),
-                 qPrintable(info));
+        const QRegularExpression metadata(u"Title: +Tafelkasse 2021-03-12\\n(.*\\n)*Creator: +Tafelkasse 9\\.8\\n"_s);
+        QVERIFY2(metadata.match(info).hasMatch(), qPrintable(info));
         QCOMPARE((QList<int>{beeps.beeps, printing.opened}), (QList<int>{0, 2})); // one dialog for each Drucken
     }
 };
