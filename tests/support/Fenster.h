@@ -81,8 +81,7 @@ struct Fenster {
     Act command(Qt::Key key) const
     {
         return [this, key] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(window.get()));
+            activate(window.get());
             QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
         };
     }
