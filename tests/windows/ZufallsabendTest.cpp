@@ -168,11 +168,9 @@ class ZufallsabendTest : public QObject, Fenster {
 private Q_SLOTS:
     void thousandsOfActionsKeepLedgerControlsAndSheetTrue()
     {
-        const QByteArray seedText = qgetenv("TAFELKASSE_SEED");
-        const std::uint64_t seed = seedText.isEmpty() ? std::random_device{}() : seedText.toULongLong();
-        const int actions = qEnvironmentVariableIsSet("TAFELKASSE_ACTIONS")
-            ? qEnvironmentVariableIntValue("TAFELKASSE_ACTIONS")
-            : 5000;
+        const auto seed
+            = qEnvironmentVariable("TAFELKASSE_SEED", QString::number(std::random_device{}())).toULongLong();
+        const int actions = qEnvironmentVariable("TAFELKASSE_ACTIONS", u"5000"_s).toInt();
         qInfo("seed %llu (TAFELKASSE_SEED=%llu replays this run)", qulonglong(seed), qulonglong(seed));
         rng.seed(seed);
         ScopedPrintDialog printing(false, QString());
