@@ -21,6 +21,7 @@
 #include <memory>
 
 struct Fenster {
+    using Act = std::function<void()>;
     FixedClock clock;
     ScopedBeepCounter beeps;
     ScopedFontList fonts;
@@ -44,7 +45,7 @@ struct Fenster {
     QStringList standings() const { return sheet().split(u'\n').mid(7, 4); } // "name:  carry-over" of each
     static void click(QWidget *d, const QString &name) { QTest::mouseClick(child<QWidget>(d, name), Qt::LeftButton); }
     // Ends the open dialog as its user would: "close" by its close box, a button's name by a click on
-    // that button, else the keys named ("Esc", "Tab Return") where the dialog's focus is.
+    // that button, else the keys named, as keys() types them.
     static void end(QWidget *d, const QString &way)
     {
         if (way == u"close"_s)
@@ -52,26 +53,35 @@ struct Fenster {
         else if (d->findChild<QPushButton *>(way))
             click(d, way);
         else
-            for (const QString &key : way.split(u' '))
-                QTest::keyClick(d->focusWidget() ? d->focusWidget() : d, QKeySequence(key)[0].key());
+            keys(d, way);
+    }
+    // Types the keys named ("Esc", "Tab Space Return") where the dialog's focus stands; the names of
+    // the controls that have the focus after each.
+    static QString keys(QWidget *d, const QString &names)
+    {
+        QStringList path;
+        for (const QString &key : names.split(u' ')) {
+            QTest::keyClick(d->focusWidget() ? d->focusWidget() : d, QKeySequence(key)[0].key());
+            path << (d->focusWidget() ? d->focusWidget()->objectName() : QString());
+        }
+        return path.join(u' ');
     }
 
     // The actions that open the window's commands: a click on a button, a menu item, Ctrl with a key.
-    std::function<void()> press(const char *name) const
+    Act press(const char *name) const
     {
         return [this, name] { QTest::mouseClick(button(name), Qt::LeftButton); };
     }
-    std::function<void()> choose(const char *name) const
+    Act choose(const char *name) const
     {
         return [this, name] { item(name)->trigger(); };
     }
     // Typed into the focused control. A desktop makes the main window active again when a dialog
     // closes; the offscreen platform does not.
-    std::function<void()> command(Qt::Key key) const
+    Act command(Qt::Key key) const
     {
         return [this, key] {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(window.get()));
+            activate(window.get());
             QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
         };
     }

@@ -12,20 +12,6 @@
 class ErgebnisFormularTest : public QObject, Fenster {
     Q_OBJECT
 
-    // A key to the control with the focus; the name of the control that has it then.
-    static QString key(Qt::Key k)
-    {
-        QTest::keyClick(QApplication::focusWidget(), k);
-        return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
-    }
-    static QString walk(int steps, Qt::Key k = Qt::Key_Tab)
-    {
-        QStringList path;
-        while (steps-- > 0)
-            path << key(k);
-        return path.join(u' ');
-    }
-
 private Q_SLOTS:
     void init() { openWindow(); }
 
@@ -73,27 +59,21 @@ private Q_SLOTS:
         ANSWER_MODAL(command(Qt::Key_E), [&](QWidget *d) { // a game won by player 3 with player 4 as East
             activate(d);
             for (const char *score : {"10", "20", "30", "40"})
-                QTest::keyClicks(QApplication::focusWidget(), QLatin1String(score)), key(Qt::Key_Tab);
-            paths << walk(4);
-            key(Qt::Key_Space);
-            paths << walk(5);
-            key(Qt::Key_Space);
-            paths << walk(1);
-            paths.last() += u' ' + walk(2, Qt::Key_Backtab);
-            key(Qt::Key_Return);
+                QTest::keyClicks(d->focusWidget(), QLatin1String(score)), keys(d, u"Tab"_s);
+            paths << keys(d, u"Tab Tab Tab Tab Space Tab Tab Tab Tab Tab Space Tab Backtab Backtab"_s);
+            end(d, u"Return"_s);
         });
         ANSWER_MODAL(command(Qt::Key_K), [&](QWidget *d) { // the correction, typed over and left by Return on Abbruch
             activate(d);
-            QTest::keyClicks(QApplication::focusWidget(), u"999"_s);
-            paths << walk(6);
-            paths.last() += u' ' + walk(3, Qt::Key_Backtab);
-            key(Qt::Key_Return);
+            QTest::keyClicks(d->focusWidget(), u"999"_s);
+            paths << keys(d, u"Tab Tab Tab Tab Tab Tab Backtab Backtab Backtab"_s);
+            end(d, u"Return"_s);
         });
-        QCOMPARE(paths,
-                 (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3"_s,
-                              u"Mahjongg_4 Osten_1 Osten_2 Osten_3 Osten_4"_s, u"Ergebnis1 Osten_4 Osten_3"_s,
-                              u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 "
-                              u"Mahjongg_1 Cancel"_s}));
+        QCOMPARE(
+            paths,
+            (QStringList{u"Cancel Mahjongg_1 Mahjongg_2 Mahjongg_3 Mahjongg_3 Mahjongg_4 Osten_1 Osten_2 Osten_3 "
+                         u"Osten_4 Osten_4 Ergebnis1 Osten_4 Osten_3"_s,
+                         u"Korrektur2 Korrektur3 Korrektur4 OK Cancel Mahjongg_3 Mahjongg_2 Mahjongg_1 Cancel"_s}));
         QCOMPARE(Modul1.Mahjongg[1] + '/' + Modul1.Osten[1], "Spieler 3/Spieler 4");
         QCOMPARE((QList<qint64>{Modul1.Spiel_Nr, Modul1.Ergebnis_1[1], Modul1.Ergebnis_4[1]}),
                  (QList<qint64>{1, 10, 40}));

@@ -14,15 +14,12 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <span>
+
 class MenueTest : public QObject, Fenster {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setApplicationName(u"Tafelkasse"_s);
-        QCoreApplication::setApplicationVersion(u"9.8"_s);
-    }
     void init() { openWindow(); }
 
     // The items as written, trailing blanks and all.
@@ -41,9 +38,9 @@ private Q_SLOTS:
                  u"Tafelkasse |Ctrl+I :"_s);
 
         QStringList menus;
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
         for (const auto &[k, m] : {std::pair{Qt::Key_F10, Qt::NoModifier}, {Qt::Key_B, Qt::AltModifier}}) {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(window.get()));
             QTest::keyClick(QApplication::focusWidget(), k, m);
             const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             menus << (menu ? menu->title() : QString());
@@ -57,15 +54,11 @@ private Q_SLOTS:
     {
         // Pixels of the sheet in the colour of a selection: there are some only while the sheet has the focus.
         const auto selectionShown = [this] {
-            const QImage image = window->Anzeige->viewport()->grab().toImage();
-            const QRgb colour = window->Anzeige->palette().color(QPalette::Active, QPalette::Highlight).rgb();
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    if (image.pixel(x, y) == colour)
-                        return true;
-                }
-            }
-            return false;
+            const QImage image = window->Anzeige->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const std::span pixels(reinterpret_cast<const QRgb *>(image.constBits()), size_t(image.sizeInBytes() / 4));
+            return std::ranges::count(pixels,
+                                      window->Anzeige->palette().color(QPalette::Active, QPalette::Highlight).rgb())
+                > 0;
         };
         playGames(1);
         const QString text = sheet();
@@ -87,6 +80,8 @@ private Q_SLOTS:
 
     void printingAsksFirstAndTheOtherFileItemsDoNothing()
     {
+        QCoreApplication::setApplicationName(u"Tafelkasse"_s);
+        QCoreApplication::setApplicationVersion(u"9.8"_s);
         const QStringList files = QDir::current().entryList(QDir::AllEntries | QDir::Hidden);
         ScopedPrintDialog printing(false, u"abbruch.pdf"_s);
         command(Qt::Key_P)();
@@ -100,9 +95,8 @@ private Q_SLOTS:
         item("AblageDrucken")->trigger();
         QVERIFY(pdfPages(printing.file).value(0).contains(u"Spiel Nr. 1"_s));
         const QString info = popplerOutput(u"pdfinfo"_s, {printing.file});
-        QVERIFY2(info.contains(QRegularExpression(u"Title: +Tafelkasse 2021-03-12\\n"_s))
-                     && info.contains(QRegularExpression(u"Creator: +Tafelkasse 9\\.8\\n"_s)),
-                 qPrintable(info));
+        const QRegularExpression metadata(u"Title: +Tafelkasse 2021-03-12\\n(.*\\n)*Creator: +Tafelkasse 9\\.8\\n"_s);
+        QVERIFY2(metadata.match(info).hasMatch(), qPrintable(info));
         QCOMPARE((QList<int>{beeps.beeps, printing.opened}), (QList<int>{0, 2})); // one dialog for each Drucken
     }
 };

@@ -27,15 +27,16 @@ private Q_SLOTS:
     void commandsOpenTheirDialogAsTheEveningAllows_data()
     {
         QTest::addColumn<int>("games");
-        QTest::addColumn<QString>("way"); // button, menu or shortcut
-        QTest::addColumn<QString>("what"); // "Ergebnisse" or "Korrektur"
+        QTest::addColumn<Act>("act");
         QTest::addColumn<QString>("opened"); // the dialog, none if empty
-        for (const QString &way : {u"button"_s, u"menu"_s, u"shortcut"_s}) {
-            const QByteArray by = " by " + way.toLatin1();
-            QTest::newRow("new game at 98 games" + by) << 98 << way << u"Ergebnisse"_s << u"Ergebnisse"_s;
-            QTest::newRow("no new game at 99 games" + by) << 99 << way << u"Ergebnisse"_s << QString();
-            QTest::newRow("correction at 99 games" + by) << 99 << way << u"Korrektur"_s << u"Korrigieren"_s;
-            QTest::newRow("no correction before a game" + by) << 0 << way << u"Korrektur"_s << QString();
+        for (const auto &[by, results, correction] :
+             {std::tuple{"button", press("Ergebnisse_Button"), press("Korrektur_Button")},
+              {"menu", choose("ErgebnisseErgebnisseeingeben"), choose("ErgebnisseKorrekturletztesSpiel")},
+              {"shortcut", command(Qt::Key_E), command(Qt::Key_K)}}) {
+            QTest::addRow("new game at 98 games by %s", by) << 98 << results << u"Ergebnisse"_s;
+            QTest::addRow("no new game at 99 games by %s", by) << 99 << results << QString();
+            QTest::addRow("correction at 99 games by %s", by) << 99 << correction << u"Korrigieren"_s;
+            QTest::addRow("no correction before a game by %s", by) << 0 << correction << QString();
         }
     }
 
@@ -43,14 +44,9 @@ private Q_SLOTS:
     void commandsOpenTheirDialogAsTheEveningAllows()
     {
         QFETCH(int, games);
-        QFETCH(QString, way);
-        QFETCH(QString, what);
+        QFETCH(Act, act);
         QFETCH(QString, opened);
         playGames(games);
-        const bool results = what == u"Ergebnisse"_s;
-        const std::function<void()> act = way == u"button"_s ? press(results ? "Ergebnisse_Button" : "Korrektur_Button")
-            : way == u"menu"_s ? choose(results ? "ErgebnisseErgebnisseeingeben" : "ErgebnisseKorrekturletztesSpiel")
-                               : command(results ? Qt::Key_E : Qt::Key_K);
         QString dialog;
         const bool ran = answered(
             [&dialog](QWidget *d) {
@@ -60,7 +56,7 @@ private Q_SLOTS:
             },
             act);
         QCOMPARE(dialog, opened);
-        const int last = games + (results && ran);
+        const int last = games + (ran && opened == u"Ergebnisse"_s);
         QCOMPARE(Modul1.Spiel_Nr, last);
         if (ran)
             QCOMPARE(Modul1.Ergebnis_1[size_t(last)], 5);
