@@ -8,7 +8,6 @@
 // evening's date is written: plainly without a desktop, in the user's locale with one, in every
 // locale with the full year and the seconds.
 #include "ledger/Modul1.h"
-#include "platform/QtServices.h"
 #include "support/Desktop.h"
 #include "support/Doubles.h"
 
