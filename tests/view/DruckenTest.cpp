@@ -110,8 +110,8 @@ private Q_SLOTS:
     }
 
     // Six games make three pages, in a monospaced font whose four cuts are equally high, unlike Courier's.
-    // At 16 points the head's long lines wrap, and the first explanatory line's "Umsatz;" would end 9 points
-    // beyond the block, so that a block a little too wide shows. The letters and lines measured on paper
+    // At 16 points the head's long lines wrap, and the first explanatory line's "Umsatz;" would end 10 points
+    // beyond the block, so that a block 11 points too wide shows. The letters and lines measured on paper
     // give each word's place.
     void wordsStandWhereWholeLinesAndPagesPutThem()
     {
