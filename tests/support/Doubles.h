@@ -15,14 +15,12 @@
 
 using platform::Installed;
 
-class ScopedBeepCounter final : public Installed<platform::BeepService> {
-public:
+struct ScopedBeepCounter final : Installed<platform::BeepService> {
     void beep() override { ++beeps; }
     int beeps = 0;
 };
 
-class ScopedFontList final : public Installed<platform::FontService> {
-public:
+struct ScopedFontList final : Installed<platform::FontService> {
     explicit ScopedFontList(std::vector<std::string> names = {})
         : fonts(std::move(names))
     { }
@@ -32,8 +30,7 @@ public:
 };
 
 // 12 March 2021, 19:30:00 in Berlin, unless the test sets another moment.
-class FixedClock final : public Installed<platform::ClockService> {
-public:
+struct FixedClock final : Installed<platform::ClockService> {
     static constexpr std::int64_t Maerz2021 = 1615573800000;
     explicit FixedClock(std::int64_t ms = Maerz2021)
         : moment{ms}

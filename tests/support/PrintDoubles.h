@@ -14,8 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ScopedPrintDialog final : public Installed<platform::PrintDialogService> {
-public:
+struct ScopedPrintDialog final : Installed<platform::PrintDialogService> {
     ScopedPrintDialog(bool print, QString pdfFile)
         : answer(print)
         , file(std::move(pdfFile))

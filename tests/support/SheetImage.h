@@ -29,9 +29,8 @@ struct SheetImage {
     {
         SheetImage image;
         for (const Stueck &piece : pieces) {
-            const QString part = QString::fromStdString(piece.Text);
-            image.text += part;
-            image.style.append(part.size(), char(piece.Fett + 2 * piece.Kursiv));
+            image.text += QString::fromStdString(piece.Text);
+            image.style.resize(image.text.size(), char(piece.Fett + 2 * piece.Kursiv));
         }
         image.text.replace(QChar(CR), QChar::ParagraphSeparator);
         return image;
@@ -48,10 +47,8 @@ struct SheetImage {
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
             if (block.position() > 0) // the separator in front of a paragraph carries its block's format
                 image.style[block.position() - 1] = styleOf(block.charFormat());
-            for (auto it = block.begin(); !it.atEnd(); ++it) {
-                std::memset(image.style.data() + it.fragment().position(), styleOf(it.fragment().charFormat()),
-                            size_t(it.fragment().length()));
-            }
+            for (const QTextLayout::FormatRange &run : block.textFormats())
+                std::memset(image.style.data() + block.position() + run.start, styleOf(run.format), size_t(run.length));
         }
         return image;
     }

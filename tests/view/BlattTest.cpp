@@ -27,7 +27,7 @@ private Q_SLOTS:
     // bold where the stored winner is that player's name and italic where East is, so that equal names
     // style two lines and a name of nobody none. Numbers keep all their digits. The first two games are
     // the example evening, worked by hand.
-    void everyLineWithItsStyle()
+    void everyLineWithItsStyleAndTheCaretBehind()
     {
         Abend abend;
         Namen_OK(abend, {{"Anna", "Bert", "Bert", "Dora"}, {"150", "-50", "0", "-100"}});
@@ -73,13 +73,9 @@ b|Der Spieler, der Mahjongg sagte, wird jeweils fett dargestellt.
                  (QStringList{u"i|  Anna  20; -88; 62"_s, u"b|  Bert  60; 240; 190"_s, u"b|  Bert  16; -60; -60"_s,
                               u"-|  Dora  8; -92; -192"_s, u"-|  Anna  4; -96; -34"_s, u"-|  Bert  8; -84; 106"_s,
                               u"-|  Bert  16; -60; -120"_s, u"bi|  Dora  40; 240; 48"_s}));
-    }
 
-    // Each writing leaves the caret behind the last character, the head of a restart as the whole sheet.
-    void caretEndsBehindTheSheet()
-    {
+        // Each writing leaves the caret behind the last character, the head of a restart as the whole sheet.
         QTextEdit anzeige;
-        const Blatt blatt = Dokument(Abend{}, StandardUeberschriften(), "Courier", "heute");
         SchreibeBlatt(anzeige, blatt);
         QVERIFY(anzeige.textCursor().atEnd());
         SchreibeKopf(anzeige, blatt.Stuecke);
