@@ -19,9 +19,8 @@ fail() { echo "$*"; exit 1; }
 program_locale=${LC_ALL:-}
 export LC_ALL=C.UTF-8
 
-# The source as it stands, uncommitted changes included, without its build directories: the
-# package build writes into its source tree and its results beside it. A checkout names its files;
-# a copy without git, as a release tarball is, is taken whole but for the folders CMake built in.
+# The source as it stands, changes included, without build folders (the package build writes into
+# it and beside it): a checkout's files, or a copy without git (a release tarball) less CMake's builds.
 mkdir "$work/tafelkasse"
 if [ -e "$source/.git" ]; then
     git -C "$source" ls-files -z --cached --others --exclude-standard |
@@ -53,14 +52,11 @@ program=$work/root/usr/bin/tafelkasse
 grep -q "<release version=\"$version\" date=\"$day\"" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
     fail "the metadata does not name release $version of $day"
 
-# Hardening as Debian 12 gives it. hardening-check finds Fortify only where the program calls a
-# checked copy (__memcpy_chk), made where the compiler knows a buffer's size; the program's only
-# copies are inside std::string, of sizes it cannot know, so blhc reads the flag from the build
-# log instead. The build asks for stack-clash probes and control-flow marks, but a probe is
-# only made for a stack frame larger than a page, which the program has none of, and the mark
-# reaches the program only if every object linked carries it, which Debian 12's C start-up
-# files (crt1.o, crti.o) do not: those two lines cannot read yes. Later releases' hardening-check
-# also asks for branch protection, which only arm64's processors have, and offers to skip it.
+# Hardening as Debian 12 gives it. Some lines cannot read yes: Fortify shows only in checked
+# copies (__memcpy_chk) where the compiler knows a buffer's size, unlike the program's copies in
+# std::string (blhc reads the flag from the build log instead); stack-clash probes come only with
+# frames larger than a page, which it has none of; the control-flow mark needs every object linked
+# to carry it, which Debian 12's crt1.o and crti.o do not; branch protection is arm64's alone.
 [[ $arch == arm64 || $(hardening-check --help) != *--nobranchprotection* ]] || branch=--nobranchprotection
 hardening-check --nofortify --nocfprotection ${branch:+"$branch"} "$program" || fail "the program lacks hardening"
 blhc --arch="$arch" "$work/build.log" || fail "the build missed some of the distribution's flags"
@@ -70,8 +66,8 @@ build_id=$(readelf -n "$program" | awk '/Build ID/ { print $3 }')
     fail "no debug symbols for the program"
 
 desktop-file-validate "$work/root/usr/share/applications/$id.desktop"
-appstreamcli validate --no-net "$work/root/usr/share/metainfo/$id.metainfo.xml"
 grep -q "^Icon=$id$" "$work/root/usr/share/applications/$id.desktop"
 grep -q '^Exec=tafelkasse$' "$work/root/usr/share/applications/$id.desktop"
+appstreamcli validate --no-net "$work/root/usr/share/metainfo/$id.metainfo.xml"
 
-LC_ALL=$program_locale "$here/start_and_quit.sh" "$program" "$work/installed.png" close
+LC_ALL=$program_locale "$here/start_and_quit.sh" "$program"
