@@ -16,10 +16,10 @@ own_desktop() {
     [ "${TAFELKASSE_OWN_DESKTOP:-}" != 1 ] || { unset QT_QPA_PLATFORM; return 0; }
     desktop_home=$(mktemp -d)
     mkdir -m 700 "$desktop_home/runtime"
-    Xvfb -displayfd 3 -screen 0 "$1" -nolisten tcp -noreset 3>"$desktop_home/display" 2>"$desktop_home/xvfb.log" &
+    Xvfb -displayfd 3 -screen 0 "$1" -nolisten tcp -noreset 3>"$desktop_home/display" &
     desktop_x=$!
     trap 'kill $desktop_x 2>/dev/null && wait $desktop_x; rm -rf "$desktop_home"' EXIT
-    until_true "the X server to start" grep -qs '^[0-9]' "$desktop_home/display" || fail "$(cat "$desktop_home/xvfb.log")"
+    until_true "the X server to start" grep -qs '^[0-9]' "$desktop_home/display"
     env -u XDG_CONFIG_HOME -u XDG_DATA_HOME -u XDG_CACHE_HOME -u XDG_STATE_HOME -u XAUTHORITY \
         TAFELKASSE_OWN_DESKTOP=1 DISPLAY=":$(cat "$desktop_home/display")" HOME="$desktop_home" \
         XDG_RUNTIME_DIR="$desktop_home/runtime" dbus-run-session -- bash "${@:2}"
@@ -28,14 +28,10 @@ own_desktop() {
 
 # Runs the command until it succeeds, or fails saying what did not happen and what was shown.
 until_true() { # what is awaited, command...
-    local what=$1 deadline=$((SECONDS + wait_limit)) w
-    shift
-    until "$@"; do
-        if [ "$SECONDS" -ge "$deadline" ]; then
-            for w in $(visible ''); do echo "on the screen: $w '$(xdotool getwindowname "$w")'" >&2; done
-            echo "waited ${wait_limit} s in vain for $what" >&2
-            return 1
-        fi
+    local deadline=$((SECONDS + wait_limit))
+    until "${@:2}"; do
+        [ "$SECONDS" -lt "$deadline" ] ||
+            fail "waited $wait_limit s in vain for $1; shown: $(visible '' | xargs -r -n 1 xdotool getwindowname | paste -sd '|')"
         sleep 0.1
     done
 }
@@ -49,17 +45,20 @@ visible() {
     done
     return $found
 }
-window() { until_true "a window titled '$1'" visible "$1" >/dev/null && visible "$1" | head -n 1; }
+window() { until_true "a window titled '$1'" visible "$1" >/dev/null; visible "$1" | head -n 1; }
 gone() { until_true "the window titled '$1' to close" eval "! visible '$1' >/dev/null"; }
 
 # Types into the window of that title once it has the keyboard; keys_and_gone returns once the
 # dialog has closed, so that the next key does not go to a window still blocked by it.
 keys() { # title, xdotool key arguments...
     local w
-    w=$(window "$1") || return 1
+    w=$(window "$1")
     timeout "$wait_limit" xdotool windowfocus --sync "$w" key --delay 30 "${@:2}"
 }
-keys_and_gone() { keys "$@" && gone "$1"; }
+keys_and_gone() {
+    keys "$@"
+    gone "$1"
+}
 
 # A fingerprint of what the window shows: its number of colours and a hash of its pixels (-silent:
 # import rings the bell otherwise). settled waits until it has more than one colour, is the same
@@ -67,21 +66,20 @@ keys_and_gone() { keys "$@" && gone "$1"; }
 picture() { import -silent -window "$1" -format '%k %#' info:- 2>/dev/null; }
 settled() { # window [fingerprint of the picture it must leave behind]
     last_picture=''
-    until_true "a finished picture of window $1" same_picture_twice "$@" && echo "$last_picture"
+    until_true "a finished picture of window $1" same_picture_twice "$@"
+    echo "$last_picture"
 }
 same_picture_twice() {
-    local now
-    now=$(picture "$1")
-    [ "$now" = "$last_picture" ] && [ "${now%% *}" -gt 1 ] 2>/dev/null && [ "$now" != "${2:-}" ] && return 0
-    last_picture=$now
-    return 1
+    local before=$last_picture
+    last_picture=$(picture "$1")
+    [ "$last_picture" = "$before" ] && [ "${before%% *}" -gt 1 ] 2>/dev/null && [ "$before" != "${2:-}" ]
 }
 
-# Waits until the process has ended, and fails unless it ended with exit code 0.
-ended_well() { # pid
-    local rc=0
-    until_true "the program to end" eval "! kill -0 $1 2>/dev/null" || return 1
-    wait "$1" || rc=$?
-    echo "exit code $rc"
-    return "$rc"
+
+# Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
+reader() { /usr/bin/python3 "${BASH_SOURCE%/*}/screen_reader.py" "$@"; }
+
+ended_well() { # pid; fails unless the program ends with exit code 0
+    until_true "the program to end" eval "! kill -0 $1 2>/dev/null"
+    wait "$1" || fail "the program ended with exit code $?"
 }

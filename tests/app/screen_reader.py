@@ -38,11 +38,6 @@ def below(node, role=None):
     return pyatspi.findAllDescendants(node, lambda n: role in (None, n.getRole()))
 
 
-def names_of(node, relation):
-    return sorted(t.name for r in node.getRelationSet() if r.getRelationType() == relation
-                  for t in (r.getTarget(i) for i in range(r.getNTargets())))
-
-
 def check(which, players):
     window = wait_for(which, lambda: next((w for w in windows() if w.name == TITLES[which]), None))
     problems = [f"{n.getRoleName()} without a name" for n in below(window)
@@ -52,7 +47,8 @@ def check(which, players):
     if which == "main":
         sizes = ["größer", "kleiner", "Standard"]
         label = [n for n in below(window, pyatspi.ROLE_LABEL) if n.name == "Darstellung:"]
-        if len(label) != 1 or names_of(label[0], pyatspi.RELATION_LABEL_FOR) != sorted(sizes):
+        ties = [r for r in label[0].getRelationSet() if r.getRelationType() == pyatspi.RELATION_LABEL_FOR] if label else []
+        if len(label) != 1 or sorted(r.getTarget(i).name for r in ties for i in range(r.getNTargets())) != sorted(sizes):
             problems.append("'Darstellung:' is not the label of the three size buttons")
     for group in ("Mah Jongg", "Osten") if which == "results" else ():
         panels = [n for n in below(window, pyatspi.ROLE_PANEL) if n.name == group]

@@ -8,40 +8,34 @@
 # bus tells which windows are shown and how wide, since no X server sees them.
 # Usage: wayland.sh PROGRAM
 set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-source "$here/drive.sh"
+source "$(dirname "$0")/drive.sh"
 own_desktop 1280x1000x24 "$0" "$@"
 
 printf '[core]\nidle-time=0\n[shell]\nlocking=false\npanel-position=none\n' >"$HOME/weston.ini"
-weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse --width=1200 --height=900 \
-    >"$HOME/weston.log" 2>&1 &
-compositor=$!
-trap 'kill $compositor 2>/dev/null || true' EXIT
-until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse" || fail "$(cat "$HOME/weston.log")"
-until_true "the compositor's window" xdotool search --class weston
-timeout "$wait_limit" xdotool windowfocus --sync "$(xdotool search --class weston | head -n 1)"
-
-bus() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
+weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse --width=1200 --height=900 &
+trap 'kill $(jobs -p) 2>/dev/null' EXIT
+until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse"
+timeout "$wait_limit" xdotool search --sync --onlyvisible --class weston windowfocus --sync
 press() { xdotool key --delay 30 "$@"; } # to weston, which hands them to its focused window
 
 # Maximized, back, fullscreen, back, each time waiting until the window has taken the size of the
 # compositor's 1200 by 900 output (less its title bar when maximized).
 grow_and_back() { # window name
     press super+shift+m
-    bus active "$1" 1100
+    reader active "$1" 1100
     press super+shift+m super+shift+f
-    bus active "$1" 1200
+    reader active "$1" 1200
     press super+shift+f
-    bus active "$1" 0 1099
+    reader active "$1" 0 1099
 }
 
 main="Tafelkasse Version x vom 16.11.2019"
 for forced in QT_QPA_PLATFORM=wayland ""; do
     echo "platform: ${forced:-chosen by Qt}"
     env ${forced:+"$forced"} XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=tafelkasse QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
-        "$1" 2>"$HOME/program.log" &
+        "$1" &
     pid=$!
-    bus active "$main"
+    reader active "$main"
     grow_and_back "$main"
     # Each window: the keys that open it from the main window, its name, the keys that close it.
     for window in "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
@@ -50,13 +44,13 @@ for forced in QT_QPA_PLATFORM=wayland ""; do
         IFS=/ read -r open name close <<<"$window"
         # shellcheck disable=SC2086 # keys, one word each
         press $open
-        bus active "$name"
+        reader active "$name"
         grow_and_back "$name"
         # shellcheck disable=SC2086
         press $close
-        bus active "$main"
+        reader active "$main"
     done
-    bus sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
+    reader sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
     press ctrl+q
-    ended_well $pid || fail "$(cat "$HOME/program.log")"
+    ended_well $pid
 done
