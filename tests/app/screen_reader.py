@@ -17,7 +17,8 @@ TITLES = {"main": "Tafelkasse Version x vom 16.11.2019", "results": " Ergebnisse
 
 
 def windows():
-    return [w for app in filter(None, pyatspi.Registry.getDesktop(0)) if app.name == "Tafelkasse" for w in filter(None, app)]
+    return [w for app in filter(None, pyatspi.Registry.getDesktop(0)) if app.name == "Tafelkasse"
+            for w in filter(None, app)]
 
 
 def width(window):
@@ -26,49 +27,45 @@ def width(window):
 
 def wait_for(what, test):
     deadline = time.monotonic() + 60
-    while not (found := test()):
+    while not (result := test()):
         if time.monotonic() > deadline:
             shown = [(w.name, width(w)) for w in windows() if w.getState().contains(pyatspi.STATE_SHOWING)]
             sys.exit(f"waited 60 s in vain for {what}; shown: {shown}")
         time.sleep(0.1)
-    return found
+    return result
 
 
-def below(node, role=None):
-    return pyatspi.findAllDescendants(node, lambda n: role in (None, n.getRole()))
-
-
-def check(which, players):
-    window = wait_for(which, lambda: next((w for w in windows() if w.name == TITLES[which]), None))
-    problems = [f"{n.getRoleName()} without a name" for n in below(window)
-                if n.getState().contains(pyatspi.STATE_FOCUSABLE) and not n.name.strip()]
-    if window.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_DIALOG, pyatspi.ROLE_WINDOW):
-        problems.append(f"the window is announced as a {window.getRoleName()}")
-    if which == "main":
-        sizes = ["größer", "kleiner", "Standard"]
-        label = [n for n in below(window, pyatspi.ROLE_LABEL) if n.name == "Darstellung:"]
-        ties = [r for r in label[0].getRelationSet() if r.getRelationType() == pyatspi.RELATION_LABEL_FOR] if label else []
-        if len(label) != 1 or sorted(r.getTarget(i).name for r in ties for i in range(r.getNTargets())) != sorted(sizes):
-            problems.append("'Darstellung:' is not the label of the three size buttons")
-    for group in ("Mah Jongg", "Osten") if which == "results" else ():
-        panels = [n for n in below(window, pyatspi.ROLE_PANEL) if n.name == group]
-        radios = [n.name for n in below(panels[0], pyatspi.ROLE_RADIO_BUTTON)] if panels else []
-        if radios != [f"{player}: {group}" for player in players]:
-            problems.append(f"the group {group!r} holds {radios}, not one for each of {players}")
-    return problems
+def found(node, role=None, name=None):
+    return pyatspi.findAllDescendants(node, lambda n: role in (None, n.getRole()) and name in (None, n.name))
 
 
 which, args = sys.argv[1], sys.argv[2:]
 if which == "active":
     least, most = [int(n) for n in args[1:]] + [0, 10**6][len(args[1:]):]
     wait_for(f"{args[0]} active, {least} to {most} wide", lambda: any(
-        w.name == args[0] and w.getState().contains(pyatspi.STATE_SHOWING) and w.getState().contains(pyatspi.STATE_ACTIVE)
-        and least <= width(w) <= most for w in windows()))
+        w.name == args[0] and w.getState().contains(pyatspi.STATE_ACTIVE) and least <= width(w) <= most
+        for w in windows()))
 elif which == "sheet":
     wait_for(f"the sheet to hold {args[0]!r}", lambda: any(
         args[0] in n.queryText().getText(0, -1).replace("\u2029", "\n")
-        for w in windows() for n in pyatspi.findAllDescendants(w, lambda n: n.name == "Spielstand")))
+        for w in windows() for n in found(w, name="Spielstand")))
 else:
-    for problem in (problems := check(which, args)):
+    window = wait_for(which, lambda: next((w for w in windows() if w.name == TITLES[which]), None))
+    problems = [f"{n.getRoleName()} without a name" for n in found(window)
+                if n.getState().contains(pyatspi.STATE_FOCUSABLE) and not n.name.strip()]
+    if window.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_DIALOG, pyatspi.ROLE_WINDOW):
+        problems.append(f"the window is announced as a {window.getRoleName()}")
+    if which == "main":  # the one label that names the three size buttons, as their label
+        ties = [sorted(r.getTarget(i).name for r in label.getRelationSet() for i in range(r.getNTargets())
+                       if r.getRelationType() == pyatspi.RELATION_LABEL_FOR)
+                for label in found(window, pyatspi.ROLE_LABEL, "Darstellung:")]
+        if ties != [["Standard", "größer", "kleiner"]]:
+            problems.append(f"'Darstellung:' labels {ties}, not the three size buttons")
+    for group in ("Mah Jongg", "Osten") if which == "results" else ():
+        panels = found(window, pyatspi.ROLE_PANEL, group)
+        radios = [n.name for n in found(panels[0], pyatspi.ROLE_RADIO_BUTTON)] if panels else []
+        if radios != [f"{player}: {group}" for player in args]:
+            problems.append(f"the group {group!r} holds {radios}, not one for each of {args}")
+    for problem in problems:
         print(f"{which}: {problem}")
     sys.exit(1 if problems else 0)
