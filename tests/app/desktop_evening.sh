@@ -2,11 +2,10 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# An evening under a window manager that minimizes (openbox), the program under strace with its
-# accessibility on, its windows read on the way as a screen reader does. It fails if the program
-# changes a file (the bus, X server and window manager run outside the trace), or if the X server
-# does not hear its bell exactly once, before the restart's warning.
-# Usage: desktop_evening.sh PROGRAM
+# desktop_evening.sh PROGRAM: an evening under a window manager that minimizes (openbox), the program
+# under strace with its accessibility on, its windows read on the way as a screen reader does. It
+# fails if the program changes a file (bus, X server and window manager run outside the trace), or
+# if the X server does not hear its bell exactly once, before the restart's warning.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 source "$here/drive.sh"

@@ -60,9 +60,8 @@ keys_and_gone() {
     gone "$1"
 }
 
-# A fingerprint of what the window shows: its number of colours and a hash of its pixels (-silent:
-# import rings the bell otherwise). settled waits until it has more than one colour, is the same
-# in two grabs one after the other and, if one is given, differs from the fingerprint before.
+# A window's colours and pixels' hash (-silent: import rings the bell otherwise); settled waits until
+# they are more than one colour, alike in two grabs, and other than a fingerprint given (drawn anew).
 picture() { import -silent -window "$1" -format '%k %#' info:- 2>/dev/null; }
 settled() { # window [fingerprint of the picture it must leave behind]
     last_picture=''

@@ -2,9 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Starts the program on a desktop of its own, opens and cancels the print dialog (in the sanitizer
-# build what it leaves behind shows as a leak at the end) and ends it by "Quit" with exit code 0.
-# Usage: start_and_quit.sh PROGRAM
+# start_and_quit.sh PROGRAM: starts it on a desktop of its own, opens and cancels the print dialog
+# (in the sanitizer build what that leaves behind shows as a leak) and ends it by "Quit", exit code 0.
 set -euo pipefail
 source "$(dirname "$0")/drive.sh"
 own_desktop 2600x1900x24 "$0" "$@"

@@ -2,11 +2,10 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# The program in weston nested in an X server (weston's headless backend has no seat to type with),
-# with the platform forced and chosen by Qt: the compositor's keys maximize every window and make
-# it fullscreen during an evening, which must end intact and with exit code 0. The accessibility
-# bus tells which windows are shown and how wide, since no X server sees them.
-# Usage: wayland.sh PROGRAM
+# wayland.sh PROGRAM: the program in weston nested in an X server (weston's headless backend has no
+# seat to type with), with the platform forced and chosen by Qt: the compositor's keys maximize
+# every window and make it fullscreen during an evening, which must end intact and with exit code
+# 0. The accessibility bus tells which windows are shown and how wide, since no X server sees them.
 set -euo pipefail
 source "$(dirname "$0")/drive.sh"
 own_desktop 1280x1000x24 "$0" "$@"
@@ -16,7 +15,8 @@ weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse 
 trap 'kill $(jobs -p) 2>/dev/null' EXIT
 until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse"
 timeout "$wait_limit" xdotool search --sync --onlyvisible --class weston windowfocus --sync
-press() { xdotool key --delay 30 "$@"; } # to weston, which hands them to its focused window
+# shellcheck disable=SC2048,SC2086 # keys as words, to weston, which hands them to its focused window
+press() { xdotool key --delay 30 $*; }
 
 # Maximized, back, fullscreen, back, each time waiting until the window has taken the size of the
 # compositor's 1200 by 900 output (less its title bar when maximized).
@@ -42,12 +42,10 @@ for forced in QT_QPA_PLATFORM=wayland ""; do
         "ctrl+k/Korrektur letzte Eingabe/Return" "ctrl+i/Tafelkasse/Escape" "ctrl+p/Drucken/Escape" \
         "ctrl+n/Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!/Escape"; do
         IFS=/ read -r open name close <<<"$window"
-        # shellcheck disable=SC2086 # keys, one word each
-        press $open
+        press "$open"
         reader active "$name"
         grow_and_back "$name"
-        # shellcheck disable=SC2086
-        press $close
+        press "$close"
         reader active "$main"
     done
     reader sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
