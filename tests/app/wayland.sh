@@ -16,18 +16,7 @@ trap 'kill $(jobs -p) 2>/dev/null' EXIT
 until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse"
 timeout "$wait_limit" xdotool search --sync --onlyvisible --class weston windowfocus --sync
 # shellcheck disable=SC2048,SC2086 # keys as words, to weston, which hands them to its focused window
-press() { xdotool key --delay 30 $*; }
-
-# Maximized, back, fullscreen, back, each time waiting until the window has taken the size of the
-# compositor's 1200 by 900 output (less its title bar when maximized).
-grow_and_back() { # window name
-    press super+shift+m
-    reader active "$1" 1100
-    press super+shift+m super+shift+f
-    reader active "$1" 1200
-    press super+shift+f
-    reader active "$1" 0 1099
-}
+press() { [ -z "$*" ] || xdotool key --delay 30 $*; }
 
 main="Tafelkasse Version x vom 16.11.2019"
 for forced in QT_QPA_PLATFORM=wayland ""; do
@@ -35,16 +24,21 @@ for forced in QT_QPA_PLATFORM=wayland ""; do
     env ${forced:+"$forced"} XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=tafelkasse QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
         "$1" &
     pid=$!
-    reader active "$main"
-    grow_and_back "$main"
-    # Each window: the keys that open it from the main window, its name, the keys that close it.
-    for window in "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
+    # Each window by the keys that open it from the main window, its name and the keys that close it:
+    # maximized, back, fullscreen, back, each time until it has the size of the compositor's 1200 by
+    # 900 output (less its title bar when maximized).
+    for window in "/$main/" "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
         "ctrl+k/Korrektur letzte Eingabe/Return" "ctrl+i/Tafelkasse/Escape" "ctrl+p/Drucken/Escape" \
         "ctrl+n/Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!/Escape"; do
         IFS=/ read -r open name close <<<"$window"
         press "$open"
         reader active "$name"
-        grow_and_back "$name"
+        press super+shift+m
+        reader active "$name" 1100
+        press super+shift+m super+shift+f
+        reader active "$name" 1200
+        press super+shift+f
+        reader active "$name" 0 1099
         press "$close"
         reader active "$main"
     done
