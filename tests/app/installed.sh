@@ -2,11 +2,10 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# The program as a user gets it: the Debian package, built as Debian builds it from a scratch
-# copy of the source, passes lintian without an error or a warning; the program has the
+# installed.sh SOURCE_DIR VERSION RELEASE_DATE: the Debian package, built as Debian builds it from a
+# scratch copy of the source, passes lintian without an error or a warning; the program has the
 # distribution's hardening, no RUNPATH and its debug symbols in the -dbgsym package; version and
 # day are those of the build; desktop entry and metadata are valid; the program starts unpacked.
-# Usage: installed.sh SOURCE_DIR VERSION RELEASE_DATE
 set -euo pipefail
 source=$1 version=$2 day=$3
 here=$(cd "$(dirname "$0")" && pwd)
@@ -19,9 +18,8 @@ fail() { echo "$*"; exit 1; }
 program_locale=${LC_ALL:-}
 export LC_ALL=C.UTF-8
 
-# The source as it stands, uncommitted changes included, without its build directories: the
-# package build writes into its source tree and its results beside it. A checkout names its files;
-# a copy without git, as a release tarball is, is taken whole but for the folders CMake built in.
+# The source as it stands, changes included, without build folders (the package build writes into
+# it and beside it): a checkout's files, or a copy without git (a release tarball) less CMake's builds.
 mkdir "$work/tafelkasse"
 if [ -e "$source/.git" ]; then
     git -C "$source" ls-files -z --cached --others --exclude-standard |
@@ -37,41 +35,34 @@ fi
 deb=$work/tafelkasse_${version}_$arch.deb
 [ -f "$deb" ] || fail "no tafelkasse_${version}_$arch.deb: is debian/changelog at version $version?"
 
-lintian --fail-on error,warning "$work/tafelkasse_${version}_$arch.changes" 2>/dev/null ||
-    fail "lintian found errors or warnings"
+lintian --fail-on error,warning "$work/tafelkasse_${version}_$arch.changes" 2>/dev/null || fail "lintian found errors or warnings"
 
 changelog_day=$(dpkg-parsechangelog -l "$work/tafelkasse/debian/changelog" -S Date | cut -d ' ' -f 2-4)
 [ "$(date -d "$changelog_day" +%F)" = "$day" ] || fail "debian/changelog is of $changelog_day, the release of $day"
 
 dpkg-deb -x "$deb" "$work/root"
-for f in bin/tafelkasse share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
-    share/icons/hicolor/scalable/apps/$id.svg share/man/man1/tafelkasse.1.gz share/man/de/man1/tafelkasse.1.gz; do
-    [ -s "$work/root/usr/$f" ] || fail "missing in the package: $f"
+cd "$work/root/usr"
+for f in share/icons/hicolor/scalable/apps/$id.svg share/man/man1/tafelkasse.1.gz share/man/de/man1/tafelkasse.1.gz; do
+    [ -s "$f" ] || fail "missing in the package: $f"
 done
-program=$work/root/usr/bin/tafelkasse
 [[ $(dpkg-deb --field "$deb" Depends) == *libqt6widgets6* ]] || fail "the package does not depend on Qt"
-grep -q "<release version=\"$version\" date=\"$day\"" "$work/root/usr/share/metainfo/$id.metainfo.xml" ||
+grep -q "<release version=\"$version\" date=\"$day\"" "share/metainfo/$id.metainfo.xml" ||
     fail "the metadata does not name release $version of $day"
+appstreamcli validate --no-net "share/metainfo/$id.metainfo.xml"
+desktop-file-validate "share/applications/$id.desktop"
+[ "$(grep -cxE "Icon=$id|Exec=tafelkasse" "share/applications/$id.desktop")" = 2 ] || fail "the desktop entry's icon or command"
 
-# Hardening as Debian 12 gives it. hardening-check finds Fortify only where the program calls a
-# checked copy (__memcpy_chk), made where the compiler knows a buffer's size; the program's only
-# copies are inside std::string, of sizes it cannot know, so blhc reads the flag from the build
-# log instead. The build asks for stack-clash probes and control-flow marks, but a probe is
-# only made for a stack frame larger than a page, which the program has none of, and the mark
-# reaches the program only if every object linked carries it, which Debian 12's C start-up
-# files (crt1.o, crti.o) do not: those two lines cannot read yes. Later releases' hardening-check
-# also asks for branch protection, which only arm64's processors have, and offers to skip it.
+# Hardening as Debian 12 gives it. Some lines cannot read yes: Fortify shows only in checked
+# copies (__memcpy_chk) where the compiler knows a buffer's size, unlike the program's copies in
+# std::string (blhc reads the flag from the build log instead); stack-clash probes come only with
+# frames larger than a page, which it has none of; the control-flow mark needs every object linked
+# to carry it, which Debian 12's crt1.o and crti.o do not; branch protection is arm64's alone.
 [[ $arch == arm64 || $(hardening-check --help) != *--nobranchprotection* ]] || branch=--nobranchprotection
-hardening-check --nofortify --nocfprotection ${branch:+"$branch"} "$program" || fail "the program lacks hardening"
+hardening-check --nofortify --nocfprotection ${branch:+"$branch"} bin/tafelkasse || fail "the program lacks hardening"
 blhc --arch="$arch" "$work/build.log" || fail "the build missed some of the distribution's flags"
-if readelf -d "$program" | grep -E 'RPATH|RUNPATH'; then fail "the program carries a library search path"; fi
-build_id=$(readelf -n "$program" | awk '/Build ID/ { print $3 }')
+if readelf -d bin/tafelkasse | grep -E 'RPATH|RUNPATH'; then fail "the program carries a library search path"; fi
+build_id=$(readelf -n bin/tafelkasse | awk '/Build ID/ { print $3 }')
 [[ $(dpkg-deb --contents "$work/tafelkasse-dbgsym_${version}_$arch.deb") == *"/usr/lib/debug/.build-id/${build_id:0:2}/${build_id:2}.debug"* ]] ||
     fail "no debug symbols for the program"
 
-desktop-file-validate "$work/root/usr/share/applications/$id.desktop"
-appstreamcli validate --no-net "$work/root/usr/share/metainfo/$id.metainfo.xml"
-grep -q "^Icon=$id$" "$work/root/usr/share/applications/$id.desktop"
-grep -q '^Exec=tafelkasse$' "$work/root/usr/share/applications/$id.desktop"
-
-LC_ALL=$program_locale "$here/start_and_quit.sh" "$program" "$work/installed.png" close
+LC_ALL=$program_locale "$here/start_and_quit.sh" "$PWD/bin/tafelkasse"

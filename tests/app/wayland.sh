@@ -2,69 +2,47 @@
 # SPDX-FileCopyrightText: 2026 Tafelkasse developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# The program on Wayland, in weston nested in an X server (weston's headless backend has no seat
-# to type with). Every window, the print dialog included, is maximized and made fullscreen by the
-# compositor's own keys and put back, while an evening is played; then the evening must be
-# intact and Ctrl+Q end the program with exit code 0. Once with the platform forced, once chosen
-# by Qt itself in a Wayland session. The accessibility bus tells which windows are shown and how
-# wide, since no X server sees them.
-# Usage: wayland.sh PROGRAM
+# wayland.sh PROGRAM: the program in weston nested in an X server (weston's headless backend has no
+# seat to type with), with the platform forced and chosen by Qt: the compositor's keys maximize
+# every window and make it fullscreen during an evening, which must end intact and with exit code
+# 0. The accessibility bus tells which windows are shown and how wide, since no X server sees them.
 set -euo pipefail
-program=$1
-here=$(cd "$(dirname "$0")" && pwd)
-source "$here/drive.sh"
+source "$(dirname "$0")/drive.sh"
 own_desktop 1280x1000x24 "$0" "$@"
 
 printf '[core]\nidle-time=0\n[shell]\nlocking=false\npanel-position=none\n' >"$HOME/weston.ini"
-weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse --width=1200 --height=900 \
-    >"$HOME/weston.log" 2>&1 &
-compositor=$!
-trap 'kill $compositor 2>/dev/null || true' EXIT
-until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse" || { cat "$HOME/weston.log"; exit 1; }
-until_true "the compositor's window" xdotool search --class weston
-timeout "$wait_limit" xdotool windowfocus --sync "$(xdotool search --class weston | head -n 1)"
+weston --config="$HOME/weston.ini" --backend=x11-backend.so --socket=tafelkasse --width=1200 --height=900 &
+trap 'kill $(jobs -p) 2>/dev/null' EXIT
+until_true "the compositor" test -S "$XDG_RUNTIME_DIR/tafelkasse"
+timeout "$wait_limit" xdotool search --sync --onlyvisible --class weston windowfocus --sync
+# shellcheck disable=SC2048,SC2086 # keys as words, to weston, which hands them to its focused window
+press() { [ -z "$*" ] || xdotool key --delay 30 $*; }
 
-bus() { /usr/bin/python3 "$here/screen_reader.py" "$@"; }
-# Keys go to weston, which hands them to its focused window.
-press() { xdotool key --delay 30 "$@"; }
-
-# Maximized, back, fullscreen, back: each time waiting until the window has taken the size of the
-# compositor's 1200 by 900 output (less its title bar when maximized).
-grow_and_back() { # window name
-    press super+shift+m
-    bus active "$1" 1100
-    press super+shift+m super+shift+f
-    bus active "$1" 1200
-    press super+shift+f
-    bus active "$1" 0 1099
-}
-
-WARNING="Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!"
-for platform in wayland chosen; do
-    echo "platform: $platform"
-    forced=()
-    [ "$platform" = chosen ] || forced=(QT_QPA_PLATFORM=wayland)
-    env "${forced[@]}" XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=tafelkasse QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
-        "$program" 2>"$HOME/program.log" &
+main="Tafelkasse Version x vom 16.11.2019"
+for forced in QT_QPA_PLATFORM=wayland ""; do
+    echo "platform: ${forced:-chosen by Qt}"
+    env ${forced:+"$forced"} XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=tafelkasse QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
+        "$1" &
     pid=$!
-    main="Tafelkasse Version x vom 16.11.2019"
-    bus active "$main"
-    grow_and_back "$main"
-    # Each window: the keys that open it from the main window, its name, the keys that close it.
-    for window in "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
+    # Each window by the keys that open it from the main window, its name and the keys that close it:
+    # maximized, back, fullscreen, back, each time until it has the size of the compositor's 1200 by
+    # 900 output (less its title bar when maximized).
+    for window in "/$main/" "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
         "ctrl+k/Korrektur letzte Eingabe/Return" "ctrl+i/Tafelkasse/Escape" "ctrl+p/Drucken/Escape" \
-        "ctrl+n/$WARNING/Escape"; do
+        "ctrl+n/Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!/Escape"; do
         IFS=/ read -r open name close <<<"$window"
-        # shellcheck disable=SC2086 # keys, one word each
-        press $open
-        bus active "$name"
-        grow_and_back "$name"
-        # shellcheck disable=SC2086
-        press $close
-        bus gone "$name"
-        bus active "$main"
+        press "$open"
+        reader active "$name"
+        press super+shift+m
+        reader active "$name" 1100
+        press super+shift+m super+shift+f
+        reader active "$name" 1200
+        press super+shift+f
+        reader active "$name" 0 1099
+        press "$close"
+        reader active "$main"
     done
-    bus sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
+    reader sheet $'Spiel Nr. 1\n  Mahjongg sagte: Anna'
     press ctrl+q
-    ended_well $pid || { cat "$HOME/program.log"; exit 1; }
+    ended_well $pid
 done
