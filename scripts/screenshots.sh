@@ -13,6 +13,19 @@ out=docs/screenshots
 export LANG=de_DE.UTF-8 TZ=Europe/Berlin
 mkdir -p "$out"
 
+# A window's colours and pixels' hash (-silent: import rings the bell otherwise); settled waits until
+# they are more than one colour, alike in two grabs, and other than a fingerprint given (drawn anew).
+picture() { import -silent -window "$1" -format '%k %#' info:- 2>/dev/null; }
+settled() { # window [fingerprint of the picture it must leave behind]
+    last_picture=''
+    until_true "a finished picture of window $1" same_picture_twice "$@" && echo "$last_picture"
+}
+same_picture_twice() {
+    local before=$last_picture
+    last_picture=$(picture "$1")
+    [ "$last_picture" = "$before" ] && [ "${before%% *}" -gt 1 ] 2>/dev/null && [ "$before" != "${2:-}" ]
+}
+
 "$program" &
 pid=$!
 trap 'kill $pid 2>/dev/null || true' EXIT

@@ -56,19 +56,6 @@ keys() { # title, xdotool key arguments...
 }
 keys_and_gone() { keys "$@" && gone "$1"; }
 
-# A window's colours and pixels' hash (-silent: import rings the bell otherwise); settled waits until
-# they are more than one colour, alike in two grabs, and other than a fingerprint given (drawn anew).
-picture() { import -silent -window "$1" -format '%k %#' info:- 2>/dev/null; }
-settled() { # window [fingerprint of the picture it must leave behind]
-    last_picture=''
-    until_true "a finished picture of window $1" same_picture_twice "$@" && echo "$last_picture"
-}
-same_picture_twice() {
-    local before=$last_picture
-    last_picture=$(picture "$1")
-    [ "$last_picture" = "$before" ] && [ "${before%% *}" -gt 1 ] 2>/dev/null && [ "$before" != "${2:-}" ]
-}
-
 # Debian's Python, which has the accessibility bindings, whatever python3 comes first in PATH.
 reader() { /usr/bin/python3 "${BASH_SOURCE%/*}/screen_reader.py" "$@"; }
 
