@@ -4,11 +4,13 @@
 // Start-up in its fixed order: the evening's ledger exists before anything else (it is a
 // global), then the application with the desktop's services, then the one main window,
 // which takes its date and default names before it first draws the sheet.
+#include "app/Symbol.h"
 #include "platform/QtServices.h"
 #include "windows/Spielstand.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QImage>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmap>
@@ -59,12 +61,14 @@ int main(int argc, char *argv[])
     QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
     // own picture on the window and in the task bar, whatever icon theme is installed. The pictures
-    // are loaded here: an icon that loads its files itself hands the window manager of a scaled
-    // screen every size as the 32-pixel one under Qt 6.8, and the task bar shows it blurred.
+    // are given as pixmaps: an icon that loads its files itself hands the window manager of a scaled
+    // screen every size as the 32-pixel one under Qt 6.8, and the task bar shows it blurred. Their
+    // pixels are in the program already, in the form the screen takes, and are used where they lie.
     QGuiApplication::setDesktopFileName(u"org.tafelkasse.Tafelkasse"_s);
     QIcon symbol;
-    for (const int groesse : {TAFELKASSE_SYMBOL_SIZES})
-        symbol.addPixmap(QPixmap(u":/symbol/tafelkasse-%1.png"_s.arg(groesse)));
+    for (const SymbolBild &bild : SymbolBilder)
+        symbol.addPixmap(QPixmap::fromImage(QImage(reinterpret_cast<const uchar *>(bild.pixel), bild.seite, bild.seite,
+                                                   QImage::Format_ARGB32_Premultiplied)));
     QApplication::setWindowIcon(symbol);
     // The desktop's beep, dates, fonts and message box for the whole run, and the print dialog over
     // the main window; the clock is the system's.

@@ -153,6 +153,10 @@ void Spielstand::Event_Opening()
     Modul1.Tagesdatum = DateTime::Now();
     QFont schrift = Anzeige->font();
     schrift.setFamily(platform::fontFamily(BlattSchrift()));
+    // The sheet writes its letters unshaped, each piece with its own strategy; the area's font takes
+    // the same, so that the area and the sheet's plain pieces share one font engine and the first
+    // frame loads one face fewer. What the sheet shows comes from the pieces' formats alone.
+    schrift.setStyleStrategy(QFont::PreferNoShaping);
     Anzeige->setFont(schrift);
     Textgroesse = static_cast<std::int64_t>(Anzeige->font().pointSizeF());
     for (int k = 1; k <= 4; ++k)
