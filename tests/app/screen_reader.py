@@ -6,7 +6,8 @@
 # it. main|about|warning|results PLAYER...: in that window every control that takes the keyboard
 # has a name, the window is announced as one, and the ties and names that tell alike controls apart
 # are there. Where no X server sees the windows (Wayland) it waits instead: "active NAME [MIN [MAX]]"
-# for a shown window with the keyboard so wide, "sheet TEXT" until the sheet holds the text.
+# for a shown window with the keyboard so wide, "item NAME" for a shown menu item, "sheet TEXT" until
+# the sheet holds the text.
 import sys
 import time
 
@@ -45,6 +46,10 @@ if which == "active":
     wait_for(f"{args[0]} active, {least} to {most} wide", lambda: any(
         w.name == args[0] and w.getState().contains(pyatspi.STATE_ACTIVE) and least <= width(w) <= most
         for w in windows()))
+elif which == "item":
+    wait_for(f"the menu item {args[0]!r} shown", lambda: any(n.getState().contains(pyatspi.STATE_SHOWING)
+                                                              for w in windows()
+                                                              for n in found(w, pyatspi.ROLE_MENU_ITEM, args[0])))
 elif which == "sheet":
     wait_for(f"the sheet to hold {args[0]!r}", lambda: any(
         args[0] in n.queryText().getText(0, -1).replace("\u2029", "\n")

@@ -27,11 +27,16 @@ for forced in QT_QPA_PLATFORM=wayland ""; do
     # Each window by the keys that open it from the main window, its name and the keys that close it:
     # maximized, back, fullscreen, back, each time until it has the size of the compositor's 1200 by
     # 900 output (less its title bar when maximized).
-    for window in "/$main/" "alt+e Return/Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
+    for window in "/$main/" "alt+e>Namen der Spieler  /Namen der MitspielerInnen/A n n a Return" "ctrl+e/ Ergebnisse eingeben: /1 0 Return" \
         "ctrl+k/Korrektur letzte Eingabe/Return" "ctrl+i/Tafelkasse/Escape" "ctrl+p/Drucken/Escape" \
         "ctrl+n/Damit werden alle bisherigen Ergebnisse gelöscht und die Tabelle beginnt von vorne!/Escape"; do
         IFS=/ read -r open name close <<<"$window"
-        press "$open"
+        press "${open%%>*}"
+        # "keys>item": the item of the menu that the keys open, chosen once the menu is shown.
+        if [[ $open == *">"* ]]; then
+            reader item "${open#*>}"
+            press Return
+        fi
         reader active "$name"
         press super+shift+m
         reader active "$name" 1100
