@@ -42,10 +42,9 @@ private Q_SLOTS:
                     const auto *push = qobject_cast<const QPushButton *>(control);
                     if (push && push->autoDefault())
                         option.features |= QStyleOptionButton::AutoDefaultButton;
-                    const QRect area = label
-                        ? label->contentsRect()
-                        : control->style()->subElementRect(
-                            push ? QStyle::SE_PushButtonContents : QStyle::SE_RadioButtonContents, &option, control);
+                    const auto contents = push ? QStyle::SE_PushButtonContents : QStyle::SE_RadioButtonContents;
+                    const QRect area
+                        = label ? label->contentsRect() : control->style()->subElementRect(contents, &option, control);
                     const int wrap = label && label->wordWrap() ? Qt::TextWordWrap : 0;
                     const QRect needs = control->fontMetrics().boundingRect(area, wrap, text);
                     if (needs.width() > area.width() || needs.height() > area.height())
