@@ -38,8 +38,7 @@ private Q_SLOTS:
                  u"Tafelkasse |Ctrl+I :"_s);
 
         QStringList menus;
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        activate(window.get());
         for (const auto &[k, m] : {std::pair{Qt::Key_F10, Qt::NoModifier}, {Qt::Key_B, Qt::AltModifier}}) {
             QTest::keyClick(QApplication::focusWidget(), k, m);
             const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
