@@ -16,7 +16,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 # clang, clang-tidy, clang-format and libclang-rt-dev are each release's own version (14 on
 # Debian 12, 19 on Debian 13), so the same names serve both.
-packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libxcb1-dev)
+packages_build=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libxcb1-dev libfontconfig-dev)
 packages_test=(xvfb xauth xdotool x11-utils weston qt6-wayland openbox at-spi2-core python3-pyatspi python3-xlib
     imagemagick poppler-utils fonts-dejavu-core fonts-urw-base35 python3 strace dbus-daemon
     desktop-file-utils appstream dpkg-dev clang libclang-rt-dev

@@ -5,6 +5,8 @@
 // global), then the application with the desktop's services, then the one main window,
 // which takes its date and default names before it first draws the sheet.
 #include "app/Symbol.h"
+#include "platform/FontConfiguration.h"
+#include "platform/Print.h"
 #include "platform/QtServices.h"
 #include "windows/Spielstand.h"
 
@@ -56,7 +58,11 @@ private:
 
 int main(int argc, char *argv[])
 {
+    // The fonts' configuration is read while the application connects to the display, and is
+    // ready before the first widget asks for a font.
+    platform::FontConfiguration schriften;
     QApplication app(argc, argv);
+    schriften.waitUntilRead();
     QApplication::setApplicationName(u"Tafelkasse"_s);
     QApplication::setApplicationVersion(QStringLiteral(TAFELKASSE_VERSION));
     // The desktop matches the window with the installed entry by its name, and shows the program's
@@ -70,12 +76,12 @@ int main(int argc, char *argv[])
         symbol.addPixmap(QPixmap::fromImage(QImage(reinterpret_cast<const uchar *>(bild.pixel), bild.seite, bild.seite,
                                                    QImage::Format_ARGB32_Premultiplied)));
     QApplication::setWindowIcon(symbol);
-    // The desktop's beep, dates, fonts and message box for the whole run, and the print dialog over
-    // the main window; the clock is the system's.
+    // The desktop's beep, dates, fonts and message box for the whole run, and the printing, which
+    // is loaded at the first print; the clock is the system's.
     platform::QtServices dienste;
+    platform::PrintModule drucken;
 
     Spielstand fenster;
-    platform::QtPrintDialog druckdialog(&fenster);
     fenster.show();
     // The program speaks German whatever the desktop's language, so Qt's own texts (the print
     // dialog, the sheet's context menu) do too, where Qt's translations are installed. None of

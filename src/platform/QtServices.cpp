@@ -9,8 +9,6 @@
 #include <QFontDatabase>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 
 using namespace Qt::StringLiterals;
 
@@ -125,16 +123,6 @@ std::string QtDateFormat::format(DateTime moment)
     const QString muster = BlattMuster(locale.dateFormat(QLocale::ShortFormat)) + u", "_s
         + BlattMuster(locale.timeFormat(QLocale::LongFormat));
     return utf8(locale.toString(QDateTime::fromMSecsSinceEpoch(moment.millisecondsSinceEpoch), muster));
-}
-
-bool QtPrintDialog::exec(QPrinter &printer)
-{
-    QPrintDialog dialog(&printer, m_parent);
-    // What the printing honours, and only that: a page range, copies and their collation, the
-    // page order and the paper. The sheet has no selection and no current page to print.
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
-                      | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
-    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace platform

@@ -2,19 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The desktop's side of the platform services: the beep of the desktop, a message box over
-// the active window, the fonts that Qt's font database knows, the locale's dates and Qt's
-// print dialog. Each is installed for as long as it lives; QtServices holds them all.
+// the active window, the fonts that Qt's font database knows and the locale's dates. Each is
+// installed for as long as it lives; QtServices holds them all.
 #pragma once
 
 #include "platform/Beep.h"
 #include "platform/DateTime.h"
 #include "platform/Fonts.h"
 #include "platform/MessageBox.h"
-#include "platform/PrintDialog.h"
 
-#include <QPointer>
 #include <QStringList>
-#include <QWidget>
 
 namespace platform {
 
@@ -50,22 +47,7 @@ public:
     std::string format(DateTime moment) override;
 };
 
-// The dialog of the desktop: Qt's print dialog over the window that prints, so that the desktop
-// keeps the two together (on Wayland a dialog without a parent stands alone). Made with that
-// window, after it.
-class QtPrintDialog final : public Installed<PrintDialogService> {
-public:
-    explicit QtPrintDialog(QWidget *parent)
-        : m_parent(parent)
-    { }
-    bool exec(QPrinter &printer) override;
-
-private:
-    QPointer<QWidget> m_parent;
-};
-
-// All of the above but the print dialog, which comes with its window, installed for as long as
-// the object lives.
+// All of the above, installed for as long as the object lives.
 struct QtServices {
     QtBeep beep;
     QtMessageBox messages;

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/Drucken.h"
 
+#include "platform/PrintDialog.h"
+
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPrinter>
 #include <QTextBlock>
@@ -124,4 +127,13 @@ void DruckeBlatt(const QTextDocument &blatt, QPrinter &printer)
         }
     }
     painter.end();
+}
+
+void DruckeMitDialog(const QTextDocument &blatt, const QString &auftrag)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(auftrag);
+    printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
+    if (platform::OpenPrinterDialog(printer))
+        DruckeBlatt(blatt, printer);
 }

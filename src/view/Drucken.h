@@ -8,6 +8,7 @@
 #pragma once
 
 class QPrinter;
+class QString;
 class QTextDocument;
 
 namespace Druckseite {
@@ -27,3 +28,7 @@ inline constexpr int Blockhoehe = Hoehe - Randabzug; // 600
 // that this makes, it prints those of the printer's page range, in the printer's page order,
 // and as many copies as the printer asks for and does not make itself.
 void DruckeBlatt(const QTextDocument &blatt, QPrinter &printer);
+
+// The print command: asks the installed print dialog where and how to print and prints the sheet
+// there with DruckeBlatt, as the job `auftrag`, made by this program in this version.
+void DruckeMitDialog(const QTextDocument &blatt, const QString &auftrag);

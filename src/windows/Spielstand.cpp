@@ -6,10 +6,9 @@
 #include "ledger/Rechnen.h"
 #include "platform/Beep.h"
 #include "platform/Fonts.h"
-#include "platform/PrintDialog.h"
+#include "platform/Print.h"
 #include "platform/QtText.h"
 #include "view/BlattSchreiben.h"
-#include "view/Drucken.h"
 #include "windows/Achtung.h"
 #include "windows/Anker.h"
 #include "windows/Beschriftung.h"
@@ -24,7 +23,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLabel>
-#include <QPrinter>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -275,15 +273,11 @@ void Spielstand::NamenEingeben()
 
 void Spielstand::Drucken()
 {
-    QPrinter printer(QPrinter::HighResolution);
     // What a printed file or a print queue calls the job: the program and the evening's day, in a
     // form that serves as a file name anywhere.
     const QDateTime beginn
         = QDateTime::fromMSecsSinceEpoch(Modul1.Tagesdatum.value_or(DateTime{}).millisecondsSinceEpoch);
-    printer.setDocName(u"Tafelkasse "_s + beginn.date().toString(Qt::ISODate));
-    printer.setCreator(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
-    if (platform::OpenPrinterDialog(printer))
-        DruckeBlatt(*Anzeige->document(), printer);
+    platform::Print(this, *Anzeige->document(), u"Tafelkasse "_s + beginn.date().toString(Qt::ISODate));
 }
 
 void Spielstand::Ueber_Button_Pressed()
