@@ -6,8 +6,8 @@
 # it. main|about|warning|results PLAYER...: in that window every control that takes the keyboard
 # has a name, the window is announced as one, and the ties and names that tell alike controls apart
 # are there. Where no X server sees the windows (Wayland) it waits instead: "active NAME [MIN [MAX]]"
-# for a shown window with the keyboard so wide, "item NAME" for a shown menu item, "sheet TEXT" until
-# the sheet holds the text.
+# for a shown window with the keyboard so wide, "item NAME [SECONDS]" for a shown menu item, "sheet
+# TEXT" until the sheet holds the text.
 import sys
 import time
 
@@ -26,12 +26,12 @@ def width(window):
     return window.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).width
 
 
-def wait_for(what, test):
-    deadline = time.monotonic() + 60
+def wait_for(what, test, seconds=60):
+    deadline = time.monotonic() + seconds
     while not (result := test()):
         if time.monotonic() > deadline:
             shown = [(w.name, width(w)) for w in windows() if w.getState().contains(pyatspi.STATE_SHOWING)]
-            sys.exit(f"waited 60 s in vain for {what}; shown: {shown}")
+            sys.exit(f"waited {seconds} s in vain for {what}; shown: {shown}")
         time.sleep(0.1)
     return result
 
@@ -49,7 +49,8 @@ if which == "active":
 elif which == "item":
     wait_for(f"the menu item {args[0]!r} shown", lambda: any(n.getState().contains(pyatspi.STATE_SHOWING)
                                                               for w in windows()
-                                                              for n in found(w, pyatspi.ROLE_MENU_ITEM, args[0])))
+                                                              for n in found(w, pyatspi.ROLE_MENU_ITEM, args[0])),
+             *[int(n) for n in args[1:]])
 elif which == "sheet":
     wait_for(f"the sheet to hold {args[0]!r}", lambda: any(
         args[0] in n.queryText().getText(0, -1).replace("\u2029", "\n")
