@@ -17,6 +17,11 @@ class Druckmodul final : public QObject, public platform::PrintService {
     Q_INTERFACES(platform::PrintService)
 
 public:
+    // Qt's plugin loader makes it without a parent, and keeps it to the end of the run.
+    explicit Druckmodul(QObject *parent = nullptr)
+        : QObject(parent)
+    { }
+
     void print(QWidget *window, const QTextDocument &sheet, const QString &job) override
     {
         platform::QtPrintDialog dialog(window);
