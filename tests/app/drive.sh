@@ -8,6 +8,9 @@
 wait_limit=60 # seconds for any one thing to happen
 
 fail() { echo "$*" >&2; exit 1; }
+# A step that fails without a word of its own still names itself, in a function or $(…) too.
+set -E
+trap 'echo "failed: $BASH_COMMAND (line $LINENO)" >&2' ERR
 
 # own_desktop SCREEN SCRIPT ARGS...: runs the script again, and exits as it does, on a desktop of
 # its own: an X server on a free display that it picks itself, not resetting when a poll
@@ -40,7 +43,7 @@ until_true() { # what is awaited, command...
 # (a window without a title has an empty one); fails if there is none.
 visible() {
     local w found=1
-    for w in $(xdotool search --onlyvisible --classname '^tafelkasse$' 2>/dev/null); do
+    for w in $(xdotool search --onlyvisible --classname '^tafelkasse$' 2>/dev/null || true); do
         xdotool getwindowname "$w" 2>/dev/null | grep -qE -- "$1" && echo "$w" && found=0
     done
     return $found
